@@ -103,6 +103,19 @@ TEST(MiscFilesLineCount, MoreThan32767LinesIsOverflowAndAMissingFileIsError53) {
     EXPECT_EQ(lineCountError(folder.file("missing")), VbError::FileNotFound);
 }
 
+TEST(MiscFilesPaths, ABackslashSeparatesFoldersOnEverySystem) {
+    testing::ScratchFolder folder;
+    fs::create_directory(folder.path() / "myLuts");
+    const std::string luts = folder.path().string() + "\\myLuts";
+    EXPECT_TRUE(MiscFiles::DirExists(luts));
+    ASSERT_TRUE(MiscFiles::AppendToTextFile(luts + "\\a.lut", "0,0"));
+    EXPECT_TRUE(fs::is_regular_file(folder.path() / "myLuts" / "a.lut"));
+    EXPECT_TRUE(MiscFiles::FileExists(luts + "\\a.lut"));
+    EXPECT_EQ(MiscFiles::getFileLineNumber(luts + "\\a.lut"), 1);
+    EXPECT_TRUE(MiscFiles::KillFile(luts + "\\a.lut"));
+    EXPECT_FALSE(fs::exists(folder.path() / "myLuts" / "a.lut"));
+}
+
 TEST(MiscFilesDrive, TakesTheDriveOfColonBackslashElseUpToTheFirstColon) {
     EXPECT_EQ(MiscFiles::DriveFromPath("C:\\Program Files\\Huebase"), "C:");
     EXPECT_EQ(MiscFiles::DriveFromPath("myLuts\\a.lut"), "");
