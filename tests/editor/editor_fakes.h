@@ -1,0 +1,53 @@
+#pragma once
+
+#include "editor/lut_editor_listener.h"
+#include "editor/lut_editor_model.h"
+#include "editor/lut_editor_owner.h"
+
+#include <vector>
+
+namespace huebase::testing {
+
+// An owner that behaves like the LUT control: it keeps the last table sent
+// and gives it back on reset.
+class FakeOwner : public LutEditorOwner {
+public:
+    explicit FakeOwner(LutEditorModel& editor) : editor_(editor) { editor.setOwner(this); }
+
+    void receiveLutTable(const LutTable& table) override { received.push_back(table); }
+    void OK_Clicked() override { ++okCount; }
+    void resetLutTable() override {
+        ++resetCount;
+        if (!received.empty())
+            editor_.SetLutTable(received.back());
+    }
+
+    std::vector<LutTable> received;
+    int okCount = 0;
+    int resetCount = 0;
+
+private:
+    LutEditorModel& editor_;
+};
+
+// Counts what the widgets would be told.
+class CountingListener : public LutEditorListener {
+public:
+    void graphPrepared() override { ++graph; }
+    void rowsReset() override { ++rowsResets; }
+    void rowChanged(int row) override { changedRows.push_back(row); }
+    void tabsPlaced() override { ++tabs; }
+    void colorBarPainted() override { ++bars; }
+
+    int graph = 0;
+    int rowsResets = 0;
+    std::vector<int> changedRows;
+    int tabs = 0;
+    int bars = 0;
+};
+
+inline LutNode node(float value, std::uint8_t method, ColorValue color, float upper = 0.0f) {
+    return {value, method, color, upper};
+}
+
+} // namespace huebase::testing
