@@ -7,6 +7,7 @@
 #include "editor/graph_coordinates.h"
 #include "editor/graph_input.h"
 #include "editor/node_rows.h"
+#include "util/vb_format.h"
 
 #include <cstdint>
 #include <optional>
@@ -71,6 +72,8 @@ public:
     const NodeRows& rows() const noexcept { return rows_; }
     int rowCount() const noexcept { return rows_.count(); }
     const NodeRow& row(int k) const { return rows_[k]; }
+    // Row k's value as its value box shows it (shortest float text).
+    std::string valueText(int k) const { return floatText(rows_[k].value); }
     // True while a table is being loaded into the rows.
     bool loading() const noexcept { return loading_; }
     // The table as last read from the rows.
@@ -89,7 +92,8 @@ public:
     // A row's value box lost the focus holding `text`. Returns the text the
     // box shows now, or nothing when the text is not numeric or the row is
     // locked (the box keeps what was typed and nothing changes).
-    std::optional<std::string> commitValueText(int k, std::string_view text, char localeSeparator);
+    std::optional<std::string> commitValueText(int k, std::string_view text,
+                                               char localeSeparator = localeDecimalSeparator());
     // The row event raised by a validated value: the row stores it, the
     // neighbours (not the end rows) take it as a bound, the buttons are
     // placed and the bar repainted.

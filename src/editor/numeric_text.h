@@ -1,5 +1,7 @@
 #pragma once
 
+#include "util/vb_format.h"
+
 #include <optional>
 #include <string_view>
 
@@ -13,6 +15,7 @@ namespace huebase::NumericText {
 // (E or D, optional sign, digits). The separator is '.' or the given locale
 // separator, so that a value shown in the user's regional form reads back.
 // A number beyond the float range is not accepted either.
-std::optional<float> toSingle(std::string_view text, char localeSeparator = '.');
+std::optional<float> toSingle(std::string_view text,
+                              char localeSeparator = localeDecimalSeparator());
 
 } // namespace huebase::NumericText

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "util/vb_format.h"
+
 #include <optional>
 #include <string>
 #include <string_view>
@@ -23,6 +25,6 @@ struct ValidatedValue {
 // purpose. Replaced texts are written in the shortest float form with the
 // given separator. Nothing (no change at all) when the text is not numeric.
 std::optional<ValidatedValue> validateRowValue(std::string_view text, float lower, float upper,
-                                               char localeSeparator);
+                                               char localeSeparator = localeDecimalSeparator());
 
 } // namespace huebase

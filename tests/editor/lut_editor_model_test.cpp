@@ -55,6 +55,7 @@ TEST_F(EditorModelTest, GivenADistributionTheEditorHoldsABlackToWhiteRampOverThe
     EXPECT_EQ(editor.row(1), (NodeRow{200, 200, 200, false, MethodLin, kWhite}));
     EXPECT_TRUE(editor.tabsPlaced());
     EXPECT_EQ(editor.tabToolTip(1), "200");
+    EXPECT_EQ(editor.valueText(1), "200");
     EXPECT_FALSE(editor.colorBar().slices().empty());
     EXPECT_EQ(editor.lutTable(), owner.received.back());
     EXPECT_GE(listener.graph, 1);

@@ -21,15 +21,6 @@ NodeRows rowsFrom(const LutTable& table) {
     return rows;
 }
 
-TEST(NodeRowsStart, TwoLinRowsWithNothingElseSet) {
-    const NodeRows rows;
-    ASSERT_EQ(rows.count(), 2);
-    for (int k = 0; k < 2; ++k) {
-        EXPECT_EQ(rows[k].method, MethodLin);
-        EXPECT_FALSE(rows[k].locked);
-    }
-}
-
 TEST(NodeRowsEnds, FirstRowIsLockedBlackAndLastRowWhiteWithItsLockUntouched) {
     NodeRows rows = rowsFrom({node(0, MethodLin, 5), node(1, MethodExp, 6), node(2, MethodLog, 7)});
     rows.setLock(2, false);
