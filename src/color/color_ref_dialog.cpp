@@ -32,7 +32,7 @@ namespace {
 constexpr int kPickInterval = 50;
 constexpr int k5by5Interval = 100;
 constexpr int kPaletteWidth = 254;
-constexpr int kPaletteHeight = 161; // odd, so that the middle row is luminance 120
+constexpr int kPaletteHeight = 215; // odd, so that the middle row is luminance 120
 constexpr ColorValue kWhite = 0xFFFFFF;
 constexpr ColorValue kBlack = 0;
 // The green box turns its text black above this value; the other boxes keep white.
