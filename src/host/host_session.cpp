@@ -1,0 +1,148 @@
+#include "host/host_session.h"
+
+#include "host/exchange_reader.h"
+#include "host/export_format.h"
+#include "host/line_appender.h"
+#include "util/messages.h"
+#include "util/misc_files.h"
+#include "util/program_exit.h"
+#include "util/vb_numeric.h"
+
+#include <cmath>
+#include <utility>
+
+namespace huebase {
+
+namespace {
+// A field as a 32-bit float: a number too large for one is error 6.
+float toSingle(const Variant& field) {
+    const double number = field.toNumber();
+    const auto single = static_cast<float>(number);
+    if (std::isinf(single) && !std::isinf(number))
+        throw VbError(VbError::Overflow);
+    return single;
+}
+} // namespace
+
+HostSession::HostSession(std::string folder, HostNotifier& notifier)
+    : folder_(std::move(folder)), notifier_(notifier) {}
+
+std::string HostSession::colPath() const {
+    return folder_ + "\\col.tmp";
+}
+
+std::string HostSession::lutPath() const {
+    return folder_ + "\\lut.tmp";
+}
+
+std::optional<ValuesTable> HostSession::start() {
+    const std::string path = colPath();
+    if (!MiscFiles::FileExists(path)) {
+        endProgram(0);
+        return std::nullopt;
+    }
+    readError_.reset();
+    try {
+        sizeInputArray(MiscFiles::getFileLineNumber(path));
+    } catch (const VbError& error) {
+        readError_ = error;
+    }
+    if (readError_ || !GetOrderedFile(path)) {
+        showMessage(readError_->message());
+        endProgram(kStartFailedExitCode);
+        return std::nullopt;
+    }
+    return input_;
+}
+
+void HostSession::answerDefined(const ColorLookup& lookup) {
+    try {
+        answerSteps(lookup);
+    } catch (const VbError& error) {
+        showMessage(error.message());
+        NotifyHost(-1);
+    }
+    endProgram(0);
+}
+
+void HostSession::answerSteps(const ColorLookup& lookup) {
+    colorInputRows(lookup);
+    const std::string path = lutPath();
+    if (!MiscFiles::FileExists(path))
+        return;
+    output_ = ValuesTable(MiscFiles::getFileLineNumber(path));
+    if (!GetOutPutFile(path)) {
+        showMessage("Can't find export values table");
+        NotifyHost(-1);
+        return;
+    }
+    MiscFiles::KillFile(path);
+    NotifyHost(writeExportTable(path) ? 0 : -1);
+}
+
+void HostSession::colorInputRows(const ColorLookup& lookup) {
+    for (int row = 1; row <= input_.rows(); ++row) {
+        Variant& color = input_.at(row, 2);
+        color = Variant(static_cast<double>(lookup(toSingle(input_.at(row, 1)))));
+        color = Variant(static_cast<double>(hostColor(toInt32(color.toNumber()))));
+    }
+}
+
+bool HostSession::writeExportTable(const std::string& path) {
+    LineAppender appender(path);
+    for (int row = 1; row <= output_.rows(); ++row) {
+        const std::int32_t color = FindColorInInputArrayFromValue(output_.at(row, 1));
+        if (!appender.append(exportLine(output_.at(row, 2), color)))
+            return false;
+    }
+    return appender.close();
+}
+
+bool HostSession::GetOrderedFile(const std::string& path) {
+    index_.reset();
+    return fill(path, input_);
+}
+
+bool HostSession::GetOutPutFile(const std::string& path) {
+    return fill(path, output_);
+}
+
+bool HostSession::fill(const std::string& path, ValuesTable& table) {
+    readError_.reset();
+    try {
+        readExchangeTable(path, table);
+        return true;
+    } catch (const VbError& error) {
+        readError_ = error;
+        return false;
+    }
+}
+
+std::int32_t HostSession::FindColorInInputArrayFromValue(const Variant& value) {
+    if (!index_)
+        index_.emplace(input_);
+    const int row = index_->lastEqualRow(value);
+    return row == 0 ? 0 : toInt32(input_.at(row, 2).toNumber());
+}
+
+std::int16_t HostSession::ScalePercent(double value, double total) {
+    const double scaled = value * 100.0;
+    if (total == 0.0)
+        throw VbError(scaled == 0.0 ? VbError::Overflow : VbError::DivisionByZero);
+    const double quotient = scaled / total;
+    if (std::isinf(quotient))
+        throw VbError(VbError::Overflow);
+    return toInt16(std::floor(quotient));
+}
+
+void HostSession::sizeInputArray(int rows) {
+    input_ = ValuesTable(rows);
+    index_.reset();
+}
+
+void HostSession::NotifyHost(std::int32_t code) {
+    if (!notifier_.tell(hostStatusText(code)))
+        showMessage(notifier_.unreachableMessage(), "Problem", MessageIcon::Critical);
+}
+
+} // namespace huebase

@@ -1,0 +1,98 @@
+#pragma once
+
+#include "core/color_value.h"
+#include "host/host_notifier.h"
+#include "host/value_index.h"
+#include "host/values_table.h"
+#include "util/vb_error.h"
+
+#include <cstdint>
+#include <functional>
+#include <optional>
+#include <string>
+
+namespace huebase {
+
+// The session with the host behind the startup window: reads the values the
+// host exported to "col.tmp", and once the user has defined the colour table,
+// colours every value, rewrites "lut.tmp" with one colour per key and tells
+// the host. The window only wires it to its LUT control.
+//
+// Every way out goes through endProgram; as that returns under tests, each
+// operation returns right after calling it.
+class HostSession {
+public:
+    // The colour of a value under the table the user defined (the LUT
+    // control's ClutInterpolate).
+    using ColorLookup = std::function<ColorValue(float value)>;
+
+    // Exit code of the program when "col.tmp" cannot be read at start.
+    static constexpr int kStartFailedExitCode = 1;
+
+    // folder: the program's folder, a UTF-8 path; the notifier is not owned.
+    HostSession(std::string folder, HostNotifier& notifier);
+
+    // folder + "\col.tmp" and folder + "\lut.tmp".
+    std::string colPath() const;
+    std::string lutPath() const;
+
+    // Start: without "col.tmp" the program ends at once, silently, with exit
+    // code 0. Otherwise the input values table is sized to the file's line
+    // count and filled; when that fails (more than 32,767 lines, records that
+    // do not fit the rows, an unreadable file) the message
+    // "Error: N. description" is shown and the program ends with
+    // kStartFailedExitCode, the host not told. Answers the table to hand to
+    // the LUT control (SetValues(table, -1, 2)), or nothing once ended.
+    std::optional<ValuesTable> start();
+
+    // The answer to the control's LUTDefined: colours the input rows through
+    // lookup, rewrites "lut.tmp", tells the host and ends the program.
+    // - "lut.tmp" missing: ends silently, the host not told;
+    // - GetOutPutFile false: "Can't find export values table", then -1G;
+    // - a line that cannot be appended: -1G;
+    // - any run-time error: "Error: N. description", then -1G;
+    // - otherwise 0G.
+    void answerDefined(const ColorLookup& lookup);
+
+    // Fill the input (output) values table from the file, row 1 onward, as
+    // readExchangeTable; the table keeps the size it was given. True when the
+    // end of the file was reached; false on a run-time error, which
+    // lastReadError then holds.
+    bool GetOrderedFile(const std::string& path);
+    bool GetOutPutFile(const std::string& path);
+    const std::optional<VbError>& lastReadError() const noexcept { return readError_; }
+
+    // Column 2 of the last input row whose column 1 equals value, converted
+    // to a 32-bit integer; 0 when no row does. Served from an index built once
+    // per filling of the input table.
+    std::int32_t FindColorInInputArrayFromValue(const Variant& value);
+
+    // The floor of value * 100 / total as a 16-bit integer (1 of 3 gives 33,
+    // -1 of 3 gives -34). A zero total is error 11, or 6 for 0 of 0; a result
+    // beyond 16 bits is error 6.
+    static std::int16_t ScalePercent(double value, double total);
+
+    // Sizes the input values table (rows from 1, all Empty), as start does
+    // before filling it.
+    void sizeInputArray(int rows);
+    const ValuesTable& InputArray() const noexcept { return input_; }
+    const ValuesTable& OutputArray() const noexcept { return output_; }
+
+private:
+    void answerSteps(const ColorLookup& lookup);
+    void colorInputRows(const ColorLookup& lookup);
+    bool writeExportTable(const std::string& path);
+    bool fill(const std::string& path, ValuesTable& table);
+    // Tells the host; when it cannot be reached, says so. Does not end the
+    // program: its callers do.
+    void NotifyHost(std::int32_t code);
+
+    std::string folder_;
+    HostNotifier& notifier_;
+    ValuesTable input_;
+    ValuesTable output_;
+    std::optional<ValueIndex> index_;
+    std::optional<VbError> readError_;
+};
+
+} // namespace huebase
