@@ -91,17 +91,6 @@ TEST(ExchangeReading, ShortAndLongLinesThatBalanceFillTheRowsInFileOrder) {
     EXPECT_EQ(reading.table.data(), (Rows{{1, 2}, {3, 4}}));
 }
 
-TEST(ExchangeReading, MissingFileIsFileNotFound) {
-    testing::ScratchFolder folder;
-    ValuesTable table(1);
-    try {
-        readExchangeTable(folder.file("col.tmp"), table);
-        FAIL() << "no error";
-    } catch (const VbError& e) {
-        EXPECT_EQ(e.number(), VbError::FileNotFound);
-    }
-}
-
 TEST(ValuesTableRows, RowsCountFromOneAndTwoColumns) {
     ValuesTable table(2);
     table.at(2, 2) = Variant("x");

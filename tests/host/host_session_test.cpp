@@ -149,14 +149,6 @@ TEST_F(HostSessionAnswer, WritesOneLinePerExportRowInRowOrderAndReportsSuccess) 
     EXPECT_EQ(services_.exitCodes(), std::vector<int>{0});
 }
 
-TEST_F(HostSessionAnswer, InputRowsHoldTheirHostColoursAfterwards) {
-    writeCol("1,1\n2,1\n");
-    writeLut("1,1\n");
-    startAndAnswer({{1.0f, 0x123456}, {2.0f, kRed}});
-    EXPECT_EQ(session_.InputArray().at(1, 2), Variant(0x563412));
-    EXPECT_EQ(session_.InputArray().at(2, 2), Variant(16711680));
-}
-
 TEST_F(HostSessionAnswer, LookupSeesSinglePrecisionValues) {
     writeCol("0.1,1\n\"2.5\",1\n");
     writeLut("");
