@@ -8,6 +8,8 @@
 #include <objbase.h>
 #include <oleauto.h>
 
+#include <charconv>
+#include <cstdint>
 #include <string>
 
 namespace huebase {
@@ -44,9 +46,12 @@ struct VariantHolder {
 };
 
 void check(HRESULT result, const std::string& what) {
-    if (FAILED(result))
-        throw AutomationError(what + " failed (HRESULT 0x" +
-                              std::to_string(static_cast<unsigned long>(result)) + ")");
+    if (SUCCEEDED(result))
+        return;
+    char hex[16];
+    const auto end =
+        std::to_chars(hex, hex + sizeof hex, static_cast<std::uint32_t>(result), 16).ptr;
+    throw AutomationError(what + " failed (HRESULT 0x" + std::string(hex, end) + ")");
 }
 
 // The IDispatch of an interface pointer, with a reference of its own, or
