@@ -1,8 +1,11 @@
 #include "core/clut_table.h"
 
+#include "core/simd.h"
 #include "util/vb_error.h"
 
+#include <bit>
 #include <cmath>
+#include <cstdint>
 
 namespace huebase {
 
@@ -18,16 +21,63 @@ bool fractionIn(float x, float value, float span, float& t) noexcept {
     return std::isfinite(t);
 }
 
+// (x - value) / span rounded to float as fractionIn does, by multiplying with
+// the rounded reciprocal instead of dividing. The product lies within three
+// units of the last double bit from the quotient, so both round to the same
+// float unless the product is that close to a halfway point between two
+// floats (the 29 bits dropped by the rounding are near 1000...0), or the
+// result is too small for the full float precision. Those rare cases divide.
+float fraction(double difference, double inverseSpan, float span) noexcept {
+    const double product = difference * inverseSpan;
+    const auto bits = std::bit_cast<std::uint64_t>(product);
+    constexpr std::uint64_t dropped = (std::uint64_t{1} << 29) - 1;
+    constexpr std::uint64_t halfway = std::uint64_t{1} << 28;
+    const std::uint64_t distance = (bits & dropped) - (halfway - 3);
+    // The product is never negative; as unsigned, 0 wraps above the limit.
+    const std::uint64_t tiny = std::bit_cast<std::uint64_t>(0x1p-125);
+    if (distance <= 6 || bits - 1 < tiny - 1) [[unlikely]]
+        return static_cast<float>(difference / span);
+    return static_cast<float>(product);
+}
+
 bool splitFails(ColorValue color) noexcept {
     return (color & 0x01000000) != 0;
 }
 
-// Round half to even for 0 <= c < 2^51 without leaving the default rounding
-// mode: adding 1.5 * 2^52 leaves no fraction bits. Same result as
-// std::nearbyint, which is a library call here.
-int roundChannel(double c) noexcept {
-    constexpr double shift = 6755399441055744.0;
-    return static_cast<int>((c + shift) - shift);
+void splitChannels(ColorValue color, float (&channels)[4]) {
+    channels[0] = RedOf(color);
+    channels[1] = GreenOf(color);
+    channels[2] = BlueOf(color);
+    channels[3] = 0.0f;
+}
+
+// BlendColor(low, high, w) for 0 < w < 1 on channels split beforehand: per
+// channel (1 - w) * low + high * w in double, rounded half to even.
+ColorValue blendChannels(const float (&low)[4], const float (&high)[4], float w) noexcept {
+    const double s = w;
+#if HUEBASE_SSE2
+    // The same IEEE operations, two channels at a time. The conversions round
+    // in the current mode, which the program leaves at nearest-even.
+    const __m128d ws = _mm_set1_pd(s);
+    const __m128d rest = _mm_set1_pd(1.0 - s);
+    const __m128 lo = _mm_load_ps(low);
+    const __m128 hi = _mm_load_ps(high);
+    const __m128d redGreen =
+        _mm_add_pd(_mm_mul_pd(rest, _mm_cvtps_pd(lo)), _mm_mul_pd(_mm_cvtps_pd(hi), ws));
+    const __m128d blue = _mm_add_pd(_mm_mul_pd(rest, _mm_cvtps_pd(_mm_movehl_ps(lo, lo))),
+                                    _mm_mul_pd(_mm_cvtps_pd(_mm_movehl_ps(hi, hi)), ws));
+    // Channels are 0..255: packing the four 32-bit lanes (red, green, blue, 0)
+    // down to bytes composes red + 256 * green + 65536 * blue.
+    const __m128i channels = _mm_unpacklo_epi64(_mm_cvtpd_epi32(redGreen), _mm_cvtpd_epi32(blue));
+    const __m128i words = _mm_packs_epi32(channels, channels);
+    return _mm_cvtsi128_si32(_mm_packus_epi16(words, words));
+#else
+    const auto channel = [s](float a, float b) {
+        return static_cast<int>(std::nearbyint((1.0 - s) * a + b * s));
+    };
+    return channel(low[0], high[0]) + 256 * channel(low[1], high[1]) +
+           65536 * channel(low[2], high[2]);
+#endif
 }
 
 } // namespace
@@ -38,14 +88,17 @@ void ClutTable::setTable(const LutTable& table, ColorValue noDataColor) {
 
     const std::size_t n = table_.size();
     spans_.assign(n > 0 ? n - 1 : 0, 0.0f);
-    values_.resize(n);
     intervals_.resize(spans_.size());
+    std::vector<float> values(n);
     ascending_ = true;
     for (std::size_t k = 0; k < n; ++k) {
-        values_[k] = table_[k].value;
-        if (std::isnan(values_[k]) || (k > 0 && !(values_[k - 1] <= values_[k])))
+        values[k] = table_[k].value;
+        if (std::isnan(values[k]) || (k > 0 && !(values[k - 1] <= values[k])))
             ascending_ = false;
     }
+    index_.assign(ascending_ ? values : std::vector<float>{});
+    lastValue_ = n > 0 ? table_.back().value : 0.0f;
+    lastColor_ = n > 0 ? table_.back().color : 0;
     for (std::size_t k = 0; k + 1 < n; ++k) {
         const LutNode& low = table_[k];
         const LutNode& high = table_[k + 1];
@@ -55,70 +108,42 @@ void ClutTable::setTable(const LutTable& table, ColorValue noDataColor) {
         Interval& interval = intervals_[k];
         interval.value = low.value;
         interval.span = spans_[k];
+        interval.inverseSpan = 1.0 / static_cast<double>(spans_[k]);
         interval.low = low.color;
         interval.high = high.color;
-        interval.method = low.method;
+        // An overflowed span is a fault for every value in the interval.
+        interval.method = std::isfinite(spans_[k]) ? low.method : kFaultyInterval;
         interval.splitFails = splitFails(low.color) || splitFails(high.color);
-        // Components as BlendColor takes them; with bit 24 clear GreenOf cannot fail.
-        const ColorValue lowColor = interval.splitFails ? 0 : low.color;
-        const ColorValue highColor = interval.splitFails ? 0 : high.color;
-        interval.lowRed = RedOf(lowColor);
-        interval.lowGreen = GreenOf(lowColor);
-        interval.lowBlue = BlueOf(lowColor);
-        interval.highRed = RedOf(highColor);
-        interval.highGreen = GreenOf(highColor);
-        interval.highBlue = BlueOf(highColor);
+        // With bit 24 clear GreenOf cannot fail.
+        splitChannels(interval.splitFails ? 0 : low.color, interval.lowChannels);
+        splitChannels(interval.splitFails ? 0 : high.color, interval.highChannels);
     }
 }
 
-std::size_t ClutTable::rowsAtOrBelow(float x) const noexcept {
-    // Branch-free binary search: the comparisons of random queries do not
-    // predict, and the table is small enough to stay in cache.
-    const float* base = values_.data();
-    std::size_t length = values_.size();
-    while (length > 1) {
-        const std::size_t half = length / 2;
-        base = base[half - 1] <= x ? base + half : base;
-        length -= half;
-    }
-    return static_cast<std::size_t>(base - values_.data()) + (*base <= x ? 1 : 0);
-}
+ColorValue ClutTable::ClutInterpolate(float x) const noexcept {
+    if (!ascending_)
+        return ClutInterpolateByScan(x);
+    // NaN counts no row, like a value below the first one.
+    const std::size_t j = index_.countAtOrBelow(x);
+    if (j == 0)
+        return 0;
+    if (j == index_.size())
+        return x == lastValue_ ? lastColor_ : noDataColor_;
 
-ColorValue ClutTable::interpolate(const Interval& interval, float x) noexcept {
-    float t;
-    if (!fractionIn(x, interval.value, interval.span, t))
-        return 0;
-    if (interval.method == MethodNone)
-        return interval.low;
-    if (interval.method >= kMethodCount)
-        return 0;
-    const float w = rampWeight(interval.method, t);
+    // Here value(i) <= x < value(i + 1) with a finite span, so t is finite.
+    const Interval& interval = intervals_[j - 1];
+    if (interval.method >= MethodNone)
+        return interval.method == MethodNone ? interval.low : 0;
+    const float t =
+        fraction(static_cast<double>(x) - interval.value, interval.inverseSpan, interval.span);
+    const float w = interval.method == MethodLin ? t : rampWeight(interval.method, t);
     if (w >= 1.0f)
         return interval.high;
     if (!(w > 0.0f))
         return interval.low;
     if (interval.splitFails)
         return 0;
-    const double s = w;
-    const int red = roundChannel((1.0 - s) * interval.lowRed + interval.highRed * s);
-    const int green = roundChannel((1.0 - s) * interval.lowGreen + interval.highGreen * s);
-    const int blue = roundChannel((1.0 - s) * interval.lowBlue + interval.highBlue * s);
-    return red + 256 * green + 65536 * blue;
-}
-
-ColorValue ClutTable::ClutInterpolate(float x) const noexcept {
-    if (!ascending_)
-        return ClutInterpolateByScan(x);
-    const std::size_t n = values_.size();
-    // NaN is not at or above any row: it stops before the first one.
-    if (n == 0 || std::isnan(x))
-        return 0;
-    const std::size_t j = rowsAtOrBelow(x);
-    if (j == 0)
-        return 0;
-    if (j == n)
-        return x == values_[n - 1] ? table_[n - 1].color : noDataColor_;
-    return interpolate(intervals_[j - 1], x);
+    return blendChannels(interval.lowChannels, interval.highChannels, w);
 }
 
 ColorValue ClutTable::ClutInterpolateByScan(float x) const noexcept {

@@ -2,6 +2,7 @@
 
 #include "core/color_value.h"
 #include "core/lut_node.h"
+#include "core/rank_index.h"
 
 #include <cstddef>
 #include <vector>
@@ -50,11 +51,13 @@ public:
     std::vector<ValueColor> ColorArray(const std::vector<float>& values) const;
 
 private:
-    // What a query in [value(i), value(i+1)) needs, split up once per table.
-    struct Interval {
-        double lowRed, lowGreen, lowBlue;
-        double highRed, highGreen, highBlue;
-        float value;
+    // What a query in [value(i), value(i+1)) needs, split up once per table;
+    // one cache line each.
+    struct alignas(64) Interval {
+        float lowChannels[4]; // red, green, blue, 0 as BlendColor takes them
+        float highChannels[4];
+        double value;
+        double inverseSpan; // 1 / span, rounded
         float span;
         ColorValue low;
         ColorValue high;
@@ -64,13 +67,16 @@ private:
         bool splitFails;
     };
 
-    std::size_t rowsAtOrBelow(float x) const noexcept;
-    static ColorValue interpolate(const Interval& interval, float x) noexcept;
+    // Any method code from MethodNone up gives no blend; this one marks an
+    // interval whose span overflowed, where every query faults into black.
+    static constexpr std::uint8_t kFaultyInterval = 0xFF;
 
     LutTable table_;
     std::vector<float> spans_;
-    std::vector<float> values_;
+    RankIndex index_;
     std::vector<Interval> intervals_;
+    float lastValue_ = 0.0f;
+    ColorValue lastColor_ = 0;
     ColorValue noDataColor_ = 0;
     bool ascending_ = true;
 };

@@ -6,7 +6,9 @@
 
 namespace huebase {
 
-std::int16_t RedOf(ColorValue color) noexcept { return static_cast<std::int16_t>(color & 0xFF); }
+std::int16_t RedOf(ColorValue color) noexcept {
+    return static_cast<std::int16_t>(color & 0xFF);
+}
 
 std::int16_t GreenOf(ColorValue color) {
     return toInt16(static_cast<double>(color & 0x0100FF00) / 256.0);

@@ -2,6 +2,7 @@
 
 #include "core/color_value.h"
 
+#include <cmath>
 #include <cstdint>
 #include <vector>
 
@@ -27,7 +28,27 @@ const char* methodName(std::uint8_t method) noexcept;
 // The fraction handed to BlendColor for position t (0..1) in an interval:
 // t, t*t (in single precision), sqrt(t), t^4, t^0.3. "None" and unknown codes
 // have no ramp and give 0.
-float rampWeight(std::uint8_t method, float t) noexcept;
+// Inline: the colour query calls it for every value it colours.
+inline float rampWeight(std::uint8_t method, float t) noexcept {
+    switch (method) {
+    case MethodLin:
+        return t;
+    case MethodLog:
+        return t * t;
+    case MethodExp:
+        return static_cast<float>(std::sqrt(static_cast<double>(t)));
+    case MethodLogPlus: {
+        // t*t is exact in double, so this is t^4 rounded once, as pow(t, 4.0)
+        // should give, without the library call.
+        const double square = static_cast<double>(t) * t;
+        return static_cast<float>(square * square);
+    }
+    case MethodExpPlus:
+        return static_cast<float>(std::pow(static_cast<double>(t), 0.3));
+    default:
+        return 0.0f;
+    }
+}
 
 // One node of a colour table, fields in the order they are saved.
 struct LutNode {

@@ -1,0 +1,31 @@
+#include "core/rank_index.h"
+
+#include <algorithm>
+#include <limits>
+
+namespace huebase {
+
+void RankIndex::assign(const std::vector<float>& ascending) {
+    blocks_.clear();
+    levelStart_.clear();
+    size_ = ascending.size();
+    std::vector<float> level = ascending;
+    while (!level.empty()) {
+        levelStart_.push_back(blocks_.size());
+        // NaN padding is never at or below anything, so it is never counted.
+        Block padding;
+        std::fill(std::begin(padding.key), std::end(padding.key),
+                  std::numeric_limits<float>::quiet_NaN());
+        blocks_.resize(blocks_.size() + (level.size() + kBlock - 1) / kBlock, padding);
+        for (std::size_t k = 0; k < level.size(); ++k)
+            blocks_[levelStart_.back() + k / kBlock].key[k % kBlock] = level[k];
+        if (level.size() <= kBlock)
+            break;
+        std::vector<float> firsts;
+        for (std::size_t k = 0; k < level.size(); k += kBlock)
+            firsts.push_back(level[k]);
+        level = std::move(firsts);
+    }
+}
+
+} // namespace huebase
