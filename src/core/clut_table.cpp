@@ -1,11 +1,10 @@
 #include "core/clut_table.h"
 
+#include "core/interval_fraction.h"
 #include "core/simd.h"
 #include "util/vb_error.h"
 
-#include <bit>
 #include <cmath>
-#include <cstdint>
 
 namespace huebase {
 
@@ -19,25 +18,6 @@ bool fractionIn(float x, float value, float span, float& t) noexcept {
         return false;
     t = static_cast<float>((static_cast<double>(x) - value) / span);
     return std::isfinite(t);
-}
-
-// (x - value) / span rounded to float as fractionIn does, by multiplying with
-// the rounded reciprocal instead of dividing. The product lies within three
-// units of the last double bit from the quotient, so both round to the same
-// float unless the product is that close to a halfway point between two
-// floats (the 29 bits dropped by the rounding are near 1000...0), or the
-// result is too small for the full float precision. Those rare cases divide.
-float fraction(double difference, double inverseSpan, float span) noexcept {
-    const double product = difference * inverseSpan;
-    const auto bits = std::bit_cast<std::uint64_t>(product);
-    constexpr std::uint64_t dropped = (std::uint64_t{1} << 29) - 1;
-    constexpr std::uint64_t halfway = std::uint64_t{1} << 28;
-    const std::uint64_t distance = (bits & dropped) - (halfway - 3);
-    // The product is never negative; as unsigned, 0 wraps above the limit.
-    const std::uint64_t tiny = std::bit_cast<std::uint64_t>(0x1p-125);
-    if (distance <= 6 || bits - 1 < tiny - 1) [[unlikely]]
-        return static_cast<float>(difference / span);
-    return static_cast<float>(product);
 }
 
 bool splitFails(ColorValue color) noexcept {
@@ -134,8 +114,8 @@ ColorValue ClutTable::ClutInterpolate(float x) const noexcept {
     const Interval& interval = intervals_[j - 1];
     if (interval.method >= MethodNone)
         return interval.method == MethodNone ? interval.low : 0;
-    const float t =
-        fraction(static_cast<double>(x) - interval.value, interval.inverseSpan, interval.span);
+    const float t = intervalFraction(static_cast<double>(x) - interval.value,
+                                     interval.inverseSpan, interval.span);
     const float w = interval.method == MethodLin ? t : rampWeight(interval.method, t);
     if (w >= 1.0f)
         return interval.high;
