@@ -81,15 +81,14 @@ SaveResult LutSaveAs(const std::string& path, const LutTable& table, ColorValue 
         out.open(pathFromUtf8(path), std::ios::binary | std::ios::trunc);
     } catch (...) {
     }
+    const auto writeLine = [&out](std::string_view line) {
+        out.write(line.data(), static_cast<std::streamsize>(line.size()));
+        out.write(kLineEnd.data(), static_cast<std::streamsize>(kLineEnd.size()));
+        out.flush();
+        return out.good();
+    };
     const bool written =
-        out.is_open() && writeLines(
-                             [&out](std::string_view line) {
-                                 out.write(line.data(), static_cast<std::streamsize>(line.size()));
-                                 out.write(kLineEnd.data(), kLineEnd.size());
-                                 out.flush();
-                                 return out.good();
-                             },
-                             table, noDataColor, decimalSeparator);
+        out.is_open() && writeLines(writeLine, table, noDataColor, decimalSeparator);
     if (written)
         return SaveResult::Saved;
     showMessage("Can't access: " + path, {}, MessageIcon::None, MessageButtons::Ok);

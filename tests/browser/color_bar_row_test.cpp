@@ -239,16 +239,6 @@ TEST_F(RowTest, ReadingAPathShowsItButReadsNoFileUntilTheModeIsSet) {
     EXPECT_EQ(row.lut().size(), 4u);
 }
 
-TEST_F(RowTest, SettersMarkTheirPropertyChanged) {
-    ColorBarRowModel row;
-    row.setBackColor(1);
-    row.setEnabled(true);
-    row.setLutName("x");
-    EXPECT_EQ(row.changedProperties(), (std::set<std::string>{"BackColor", "Enabled", "LutName"}));
-    row.clearChanged();
-    EXPECT_TRUE(row.changedProperties().empty());
-}
-
 // --- The bar ------------------------------------------------------------------------
 
 TEST_F(RowTest, TheBarIsPaintedInSlicesOfA256thOfTheShownRange) {

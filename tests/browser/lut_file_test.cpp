@@ -50,11 +50,6 @@ TEST(LutFileWriting, HeaderThenOneFixedRecordPerNodeWithCrlfAndNothingAfter) {
                                                    "200.00,0.00,16711680.00,200.00\r\n");
 }
 
-TEST(LutFileWriting, HeaderColourIsAPlainSignedInteger) {
-    EXPECT_EQ(LutFile::headerLine(kWhite, 2), "16777215,2");
-    EXPECT_EQ(LutFile::headerLine(-1, 0), "-1,0");
-}
-
 TEST(LutFileWriting, ValuesAreRoundedToTwoDecimals) {
     EXPECT_EQ(LutFile::recordLine({-1437.125f, MethodExpPlus, 255, 2205.5f}, '.'),
               "-1437.13,4.00,255.00,2205.50");
@@ -62,6 +57,7 @@ TEST(LutFileWriting, ValuesAreRoundedToTwoDecimals) {
 
 TEST(LutFileWriting, AnEmptyTableIsAHeaderWithCountZero) {
     EXPECT_EQ(LutFile::text({}, 255, '.'), "255,0\r\n");
+    EXPECT_EQ(LutFile::text({}, -1, '.'), "-1,0\r\n");
 }
 
 TEST(LutFileWriting, ACommaSeparatorGivesEveryFixedFieldItsOwnComma) {

@@ -65,13 +65,6 @@ TEST(ClipDataToColors, LeavesTheTableAndShowsItsEnds) {
     EXPECT_TRUE(services.messages().empty());
 }
 
-TEST(ClipDataToColors, AnEmptyTableIsLeftAlone) {
-    LutFit fit;
-    ApplyLutOptions(fit, kPath);
-    EXPECT_EQ(fit.min, "MinVal");
-    EXPECT_EQ(fit.max, "MaxVal");
-}
-
 // --- Mode 1, lower end ----------------------------------------------------------
 
 TEST(ClipColorToDataLowerEnd, DataBelowTheTableExtendsTheFirstNode) {
@@ -243,13 +236,6 @@ TEST(WarpToFitData, EqualEndsAreADivisionError) {
     };
     EXPECT_EQ(errorOf({5, 5}), VbError::Overflow); // 0 / 0
     EXPECT_EQ(errorOf({5, 7, 5}), VbError::DivisionByZero);
-}
-
-TEST(FitModes, AnUnknownModeChangesNothing) {
-    LutFit fit = fitOf({0, 100}, 3, -5, 500);
-    ApplyLutOptions(fit, kPath);
-    EXPECT_EQ(fit.lut, recordsAt({0, 100}));
-    EXPECT_EQ(fit.min, "MinVal");
 }
 
 } // namespace
