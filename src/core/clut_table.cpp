@@ -24,35 +24,33 @@ bool splitFails(ColorValue color) noexcept {
     return (color & 0x01000000) != 0;
 }
 
-void splitChannels(ColorValue color, float (&channels)[4]) {
+void splitChannels(ColorValue color, double (&channels)[4]) {
     channels[0] = RedOf(color);
     channels[1] = GreenOf(color);
     channels[2] = BlueOf(color);
-    channels[3] = 0.0f;
+    channels[3] = 0.0;
 }
 
 // BlendColor(low, high, w) for 0 < w < 1 on channels split beforehand: per
 // channel (1 - w) * low + high * w in double, rounded half to even.
-ColorValue blendChannels(const float (&low)[4], const float (&high)[4], float w) noexcept {
+ColorValue blendChannels(const double (&low)[4], const double (&high)[4], float w) noexcept {
     const double s = w;
 #if HUEBASE_SSE2
     // The same IEEE operations, two channels at a time. The conversions round
     // in the current mode, which the program leaves at nearest-even.
     const __m128d ws = _mm_set1_pd(s);
     const __m128d rest = _mm_set1_pd(1.0 - s);
-    const __m128 lo = _mm_load_ps(low);
-    const __m128 hi = _mm_load_ps(high);
     const __m128d redGreen =
-        _mm_add_pd(_mm_mul_pd(rest, _mm_cvtps_pd(lo)), _mm_mul_pd(_mm_cvtps_pd(hi), ws));
-    const __m128d blue = _mm_add_pd(_mm_mul_pd(rest, _mm_cvtps_pd(_mm_movehl_ps(lo, lo))),
-                                    _mm_mul_pd(_mm_cvtps_pd(_mm_movehl_ps(hi, hi)), ws));
+        _mm_add_pd(_mm_mul_pd(rest, _mm_load_pd(low)), _mm_mul_pd(_mm_load_pd(high), ws));
+    const __m128d blue =
+        _mm_add_pd(_mm_mul_pd(rest, _mm_load_pd(low + 2)), _mm_mul_pd(_mm_load_pd(high + 2), ws));
     // Channels are 0..255: packing the four 32-bit lanes (red, green, blue, 0)
     // down to bytes composes red + 256 * green + 65536 * blue.
     const __m128i channels = _mm_unpacklo_epi64(_mm_cvtpd_epi32(redGreen), _mm_cvtpd_epi32(blue));
     const __m128i words = _mm_packs_epi32(channels, channels);
     return _mm_cvtsi128_si32(_mm_packus_epi16(words, words));
 #else
-    const auto channel = [s](float a, float b) {
+    const auto channel = [s](double a, double b) {
         return static_cast<int>(std::nearbyint((1.0 - s) * a + b * s));
     };
     return channel(low[0], high[0]) + 256 * channel(low[1], high[1]) +
@@ -94,6 +92,7 @@ void ClutTable::setTable(const LutTable& table, ColorValue noDataColor) {
         // An overflowed span is a fault for every value in the interval.
         interval.method = std::isfinite(spans_[k]) ? low.method : kFaultyInterval;
         interval.splitFails = splitFails(low.color) || splitFails(high.color);
+        interval.upperBits = ((low.color | high.color) & ~0xFFFFFF) != 0;
         // With bit 24 clear GreenOf cannot fail.
         splitChannels(interval.splitFails ? 0 : low.color, interval.lowChannels);
         splitChannels(interval.splitFails ? 0 : high.color, interval.highChannels);
@@ -114,15 +113,20 @@ ColorValue ClutTable::ClutInterpolate(float x) const noexcept {
     const Interval& interval = intervals_[j - 1];
     if (interval.method >= MethodNone)
         return interval.method == MethodNone ? interval.low : 0;
-    const float t = intervalFraction(static_cast<double>(x) - interval.value,
-                                     interval.inverseSpan, interval.span);
+    const float t = intervalFraction(static_cast<double>(x) - interval.value, interval.inverseSpan,
+                                     interval.span);
     const float w = interval.method == MethodLin ? t : rampWeight(interval.method, t);
-    if (w >= 1.0f)
-        return interval.high;
-    if (!(w > 0.0f))
-        return interval.low;
-    if (interval.splitFails)
-        return 0;
+    // 0 <= w <= 1 here. With bits 24-31 clear in both colours the blend at
+    // w = 0 and w = 1 recomposes them exactly, so only other colours need
+    // BlendColor's early returns.
+    if (interval.upperBits) [[unlikely]] {
+        if (w >= 1.0f)
+            return interval.high;
+        if (!(w > 0.0f))
+            return interval.low;
+        if (interval.splitFails)
+            return 0;
+    }
     return blendChannels(interval.lowChannels, interval.highChannels, w);
 }
 

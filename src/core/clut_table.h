@@ -52,10 +52,10 @@ public:
 
 private:
     // What a query in [value(i), value(i+1)) needs, split up once per table;
-    // one cache line each.
+    // two cache lines each.
     struct alignas(64) Interval {
-        float lowChannels[4]; // red, green, blue, 0 as BlendColor takes them
-        float highChannels[4];
+        double lowChannels[4]; // red, green, blue, 0 as BlendColor takes them
+        double highChannels[4];
         double value;
         double inverseSpan; // 1 / span, rounded
         float span;
@@ -65,6 +65,7 @@ private:
         // Either colour has bit 24 set: splitting it is an overflow, so any
         // real blend in this interval fails into black.
         bool splitFails;
+        bool upperBits; // either colour has any of bits 24-31 set
     };
 
     // Any method code from MethodNone up gives no blend; this one marks an

@@ -26,6 +26,7 @@ void RankIndex::assign(const std::vector<float>& ascending) {
             firsts.push_back(level[k]);
         level = std::move(firsts);
     }
+    topLevel_ = levelStart_.empty() ? 0 : levelStart_.size() - 1;
 }
 
 } // namespace huebase

@@ -32,6 +32,7 @@ private:
     // last; levelStart_[l] is where level l begins.
     std::vector<Block> blocks_;
     std::vector<std::size_t> levelStart_;
+    std::size_t topLevel_ = 0;
     std::size_t size_ = 0;
 };
 
@@ -61,9 +62,9 @@ inline std::size_t RankIndex::countAtOrBelow(float x) const noexcept {
     // Below the first value of a block at one level means below its whole
     // block at the level beneath, so only the top can give 0.
     std::size_t count = countInBlock(blocks_.back(), x);
-    if (count == 0)
-        return 0;
-    for (std::size_t level = levelStart_.size() - 1; level-- > 0;)
+    if (count == 0 || topLevel_ == 0)
+        return count;
+    for (std::size_t level = topLevel_; level-- > 0;)
         count = kBlock * (count - 1) + countInBlock(blocks_[levelStart_[level] + count - 1], x);
     return count;
 }
