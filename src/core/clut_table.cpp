@@ -100,12 +100,11 @@ void ClutTable::setTable(const LutTable& table, ColorValue noDataColor) {
 }
 
 ColorValue ClutTable::ClutInterpolate(float x) const noexcept {
-    if (!ascending_)
-        return ClutInterpolateByScan(x);
-    // NaN counts no row, like a value below the first one.
+    // NaN counts no row, like a value below the first one. Tables out of
+    // order have an empty index and end up in the scan.
     const std::size_t j = index_.countAtOrBelow(x);
     if (j == 0)
-        return 0;
+        return ascending_ ? 0 : ClutInterpolateByScan(x);
     if (j == index_.size())
         return x == lastValue_ ? lastColor_ : noDataColor_;
 

@@ -14,6 +14,8 @@ namespace huebase {
 // (4,096 values take three steps).
 class RankIndex {
 public:
+    RankIndex() { assign({}); }
+
     // The values must be ascending (equal neighbours allowed) and not NaN.
     void assign(const std::vector<float>& ascending);
 
@@ -57,8 +59,6 @@ inline std::size_t RankIndex::countInBlock(const Block& block, float x) noexcept
 }
 
 inline std::size_t RankIndex::countAtOrBelow(float x) const noexcept {
-    if (blocks_.empty())
-        return 0;
     // Below the first value of a block at one level means below its whole
     // block at the level beneath, so only the top can give 0.
     std::size_t count = countInBlock(blocks_.back(), x);
