@@ -22,8 +22,10 @@ void RankIndex::assign(const std::vector<float>& ascending) {
         blocks_.resize(blocks_.size() + blockCount, padding);
         for (std::size_t k = 0; k < level.size(); ++k)
             blocks_[levelStart_.back() + k / kBlock].key[k % kBlock] = level[k];
-        if (level.size() <= kBlock)
+        if (level.size() <= kBlock) {
+            narrowTop_ = level.size() <= kBlock / 2;
             break;
+        }
         std::vector<float> firsts;
         for (std::size_t k = 0; k < level.size(); k += kBlock)
             firsts.push_back(level[k]);
