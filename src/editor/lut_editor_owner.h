@@ -15,6 +15,8 @@ public:
     virtual void OK_Clicked() = 0;
     // "Reset": the owner gives the table it holds back through SetLutTable.
     virtual void resetLutTable() = 0;
+    // Stores a no-data colour without telling anyone.
+    virtual void receiveNoDataColor(ColorValue /*color*/) {}
 };
 
 } // namespace huebase

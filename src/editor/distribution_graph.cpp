@@ -1,0 +1,125 @@
+#include "editor/distribution_graph.h"
+
+#include "color/qt_color.h"
+#include "editor/graph_readout.h"
+#include "editor/lut_editor_model.h"
+#include "editor/reporting_errors.h"
+
+#include <QMouseEvent>
+#include <QPainter>
+
+#include <vector>
+
+namespace huebase {
+
+namespace {
+// A mid grey on which both the white line and the black points stand out.
+const QColor kBackground(148, 156, 166);
+const QColor kBaseline(128, 136, 146);
+} // namespace
+
+DistributionGraph::DistributionGraph(LutEditorModel& model, QWidget* parent)
+    : QWidget(parent), model_(model) {
+    setObjectName("Graph");
+    setAccessibleName("Distribution graph");
+    setMouseTracking(true);
+    setAttribute(Qt::WA_OpaquePaintEvent);
+    setMinimumSize(240, 120);
+    setCursor(Qt::CrossCursor);
+    model_.addListener(this);
+}
+
+DistributionGraph::~DistributionGraph() {
+    model_.removeListener(this);
+}
+
+QSize DistributionGraph::sizeHint() const {
+    return {600, 300};
+}
+
+QPointF DistributionGraph::pointAt(double x, double y) const {
+    const GraphCoordinates& c = model_.graphCoordinates();
+    return {c.xToPixel(x, width()), c.yToPixel(y, height())};
+}
+
+double DistributionGraph::valueAt(double pixelX) const {
+    return model_.graphCoordinates().pixelToX(pixelX, width());
+}
+
+double DistributionGraph::countAt(double pixelY) const {
+    return model_.graphCoordinates().pixelToY(pixelY, height());
+}
+
+MouseButton DistributionGraph::buttonOf(Qt::MouseButton button) {
+    switch (button) {
+    case Qt::LeftButton:
+        return MouseButton::Left;
+    case Qt::RightButton:
+        return MouseButton::Right;
+    default:
+        return MouseButton::Middle;
+    }
+}
+
+void DistributionGraph::graphPrepared() {
+    stale_ = true;
+    update();
+}
+
+void DistributionGraph::resizeEvent(QResizeEvent*) {
+    stale_ = true;
+}
+
+void DistributionGraph::render() {
+    const qreal ratio = devicePixelRatioF();
+    image_ = QImage(size() * ratio, QImage::Format_RGB32);
+    image_.setDevicePixelRatio(ratio);
+    image_.fill(kBackground);
+    QPainter painter(&image_);
+    painter.setRenderHint(QPainter::Antialiasing);
+
+    // The zero count line, so the curve's foot reads as a baseline.
+    const double zero = pointAt(0, 0).y();
+    painter.setPen(QPen(kBaseline, 1));
+    painter.drawLine(QPointF(0, zero), QPointF(width(), zero));
+
+    const DistributionCurve& curve = model_.curve();
+    std::vector<QLineF> lines;
+    lines.reserve(curve.lines().size());
+    for (const CurveSegment& s : curve.lines())
+        lines.emplace_back(pointAt(s.from.x, s.from.y), pointAt(s.to.x, s.to.y));
+    painter.setPen(QPen(toQColor(DistributionCurve::kLineColor), DistributionCurve::kLineWidth));
+    painter.drawLines(lines.data(), static_cast<int>(lines.size()));
+
+    std::vector<QPointF> points;
+    points.reserve(curve.points().size());
+    for (const CurvePoint& p : curve.points())
+        points.push_back(pointAt(p.x, p.y));
+    painter.setRenderHint(QPainter::Antialiasing, false);
+    painter.setPen(QPen(toQColor(DistributionCurve::kPointColor), DistributionCurve::kPointWidth,
+                        Qt::SolidLine, Qt::SquareCap));
+    painter.drawPoints(points.data(), static_cast<int>(points.size()));
+    stale_ = false;
+}
+
+void DistributionGraph::paintEvent(QPaintEvent*) {
+    if (stale_ || image_.size() != size() * devicePixelRatioF())
+        render();
+    QPainter(this).drawImage(0, 0, image_);
+}
+
+void DistributionGraph::mouseMoveEvent(QMouseEvent* event) {
+    const double x = valueAt(event->position().x());
+    const double y = countAt(event->position().y());
+    emit pointerValue(QString::fromStdString(GraphReadout::xText(x)));
+    setToolTip(QString::fromStdString(GraphReadout::toolTip(x, y)));
+    reportingErrors([&] { model_.moveOnGraph(static_cast<float>(x)); });
+}
+
+void DistributionGraph::mouseReleaseEvent(QMouseEvent* event) {
+    const double x = valueAt(event->position().x());
+    reportingErrors(
+        [&] { model_.releaseOnGraph(static_cast<float>(x), buttonOf(event->button())); });
+}
+
+} // namespace huebase

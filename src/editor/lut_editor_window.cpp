@@ -1,0 +1,172 @@
+#include "editor/lut_editor_window.h"
+
+#include "color/color_picker.h"
+#include "editor/color_bar_view.h"
+#include "editor/distribution_graph.h"
+#include "editor/node_tab_strip.h"
+#include "editor/reporting_errors.h"
+#include "editor/value_rows_panel.h"
+#include "util/form_on_top.h"
+
+#include <QApplication>
+#include <QGridLayout>
+#include <QGroupBox>
+#include <QHBoxLayout>
+#include <QLabel>
+#include <QLineEdit>
+#include <QPushButton>
+#include <QVBoxLayout>
+
+namespace huebase {
+
+namespace {
+QPushButton* button(QWidget* parent, const char* name, const QString& caption) {
+    auto* b = new QPushButton(caption, parent);
+    b->setObjectName(name);
+    b->setAccessibleName(QString(caption).remove('&'));
+    // Enter in a value box takes the value; it never presses a button.
+    b->setAutoDefault(false);
+    return b;
+}
+} // namespace
+
+LutEditorWindow::LutEditorWindow(QWidget* parent)
+    : QDialog(parent), model_(std::make_unique<LutEditorModel>()) {
+    setObjectName("lut");
+    setWindowTitle("Color LUT");
+    buildControls();
+    resize(980, 600);
+    MiscFiles::FormOnTop(*this, true);
+}
+
+// The controls listen to the model, which must outlive them.
+LutEditorWindow::~LutEditorWindow() {
+    qDeleteAll(findChildren<QWidget*>(Qt::FindDirectChildrenOnly));
+}
+
+void LutEditorWindow::buildControls() {
+    LutEditorModel& model = *model_;
+
+    // Graph, node buttons and colour bar share one horizontal scale, so they
+    // sit in one column with nothing between them.
+    Graph_ = new DistributionGraph(model, this);
+    GraphColorTab_ = new NodeTabStrip(model, this);
+    ColorBar_ = new ColorBarView(model, this);
+    auto* plot = new QVBoxLayout;
+    plot->setSpacing(0);
+    plot->addWidget(Graph_, 1);
+    plot->addWidget(GraphColorTab_);
+    plot->addWidget(ColorBar_);
+
+    auto* valueLabel = new QLabel("&Value:", this);
+    Xtxt_ = new QLineEdit(this);
+    Xtxt_->setObjectName("Xtxt");
+    Xtxt_->setAccessibleName("Value under the pointer");
+    Xtxt_->setReadOnly(true);
+    Xtxt_->setMaximumWidth(110);
+    valueLabel->setBuddy(Xtxt_);
+    connect(Graph_, &DistributionGraph::pointerValue, Xtxt_, &QLineEdit::setText);
+    auto* Indiv = button(this, "Indiv", "Individual values");
+    Indiv->setToolTip("Add a node at every distinct data value");
+    connect(Indiv, &QPushButton::clicked, this, &LutEditorWindow::indivClicked);
+    auto* hint = new QLabel("Click the graph to add a node. On a node: Shift+right-drag moves it, "
+                            "Ctrl+right deletes it, left click picks its colour.",
+                            this);
+    hint->setWordWrap(true);
+    hint->setForegroundRole(QPalette::PlaceholderText);
+    auto* readout = new QHBoxLayout;
+    readout->addWidget(valueLabel);
+    readout->addWidget(Xtxt_);
+    readout->addWidget(Indiv);
+    readout->addSpacing(12);
+    readout->addWidget(hint, 1);
+
+    auto* left = new QVBoxLayout;
+    left->addLayout(plot, 1);
+    left->addLayout(readout);
+
+    rows_ = new ValueRowsPanel(model, this);
+    connect(GraphColorTab_, &NodeTabStrip::colorChoiceRequested, this,
+            [this](int k) { reportingErrors([&] { rows_->pickColor(k); }); });
+
+    auto* Label1 = new QLabel("NO DATA", this);
+    Label1->setObjectName("Label1");
+    NoDataColor_ = new ColorPicker(this);
+    NoDataColor_->setObjectName("NoDataColor");
+    NoDataColor_->setAccessibleName("NO DATA colour");
+    NoDataColor_->setToolTip("Colour of values above the last node");
+    Label1->setBuddy(NoDataColor_);
+    auto* noData = new QHBoxLayout;
+    noData->addWidget(Label1);
+    noData->addWidget(NoDataColor_);
+    noData->addStretch(1);
+
+    auto* nodes = new QGroupBox("Nodes", this);
+    auto* right = new QVBoxLayout(nodes);
+    right->addWidget(rows_, 1);
+    right->addLayout(noData);
+    nodes->setMinimumWidth(300);
+
+    auto* top = new QHBoxLayout;
+    top->addLayout(left, 3);
+    top->addWidget(nodes, 1);
+
+    auto* OpenBrowser = button(this, "OpenBrowser", "&Library...");
+    OpenBrowser->setToolTip("Choose a colour table from the library");
+    auto* cmdSave = button(this, "cmdSave", "&Save...");
+    cmdSave->setToolTip("Save this colour table to the library");
+    auto* Command1 = button(this, "Command1", "Reset");
+    Command1->setToolTip("Go back to the last table sent");
+    auto* Cancel = button(this, "Cancel", "Cancel");
+    auto* OK = button(this, "OK", "OK");
+    connect(OpenBrowser, &QPushButton::clicked, this, &LutEditorWindow::openBrowserRequested);
+    connect(cmdSave, &QPushButton::clicked, this, &LutEditorWindow::saveRequested);
+    connect(Command1, &QPushButton::clicked, this,
+            [this] { reportingErrors([&] { model_->Reset(); }); });
+    connect(Cancel, &QPushButton::clicked, this, &LutEditorWindow::reject);
+    connect(OK, &QPushButton::clicked, this, &LutEditorWindow::accept);
+
+    auto* buttons = new QHBoxLayout;
+    buttons->addWidget(OpenBrowser);
+    buttons->addWidget(cmdSave);
+    buttons->addStretch(1);
+    buttons->addWidget(Command1);
+    buttons->addSpacing(12);
+    buttons->addWidget(Cancel);
+    buttons->addWidget(OK);
+
+    auto* layout = new QVBoxLayout(this);
+    layout->addLayout(top, 1);
+    layout->addLayout(buttons);
+
+    setTabOrder(GraphColorTab_, Indiv);
+}
+
+void LutEditorWindow::setNoDataColor(ColorValue color) {
+    NoDataColor_->setColor(color);
+}
+
+ColorValue LutEditorWindow::noDataColor() const {
+    return NoDataColor_->color();
+}
+
+void LutEditorWindow::indivClicked() {
+    QApplication::setOverrideCursor(Qt::WaitCursor);
+    reportingErrors([&] { model_->Indiv(); });
+    QApplication::restoreOverrideCursor();
+}
+
+void LutEditorWindow::accept() {
+    if (!reportingErrors([&] { model_->OK(); }))
+        return;
+    QDialog::accept();
+}
+
+void LutEditorWindow::reject() {
+    reportingErrors([&] { model_->Cancel(); });
+    // The program has ended; where an exit handler lets it go on (tests), the
+    // window must not stay open behind a modal loop.
+    QDialog::reject();
+}
+
+} // namespace huebase
