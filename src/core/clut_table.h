@@ -41,8 +41,9 @@ public:
     // True when no value is NaN and every value is at or below the next one.
     bool isAscending() const noexcept { return ascending_; }
 
-    // The colour of x. Ascending tables are answered by binary search in
-    // O(log n); others by the row-by-row scan. Both give the same colour.
+    // The colour of x. Ascending tables are answered through a blocked search
+    // in O(log n) (see RankIndex); others by the row-by-row scan. Both give
+    // the same colour for every x.
     ColorValue ClutInterpolate(float x) const noexcept;
     // The row-by-row scan, for any row order; the reference for the above.
     ColorValue ClutInterpolateByScan(float x) const noexcept;
