@@ -1,13 +1,16 @@
 #include "editor/distribution_graph.h"
 
 #include "color/qt_color.h"
+#include "editor/axis_ticks.h"
 #include "editor/graph_readout.h"
 #include "editor/lut_editor_model.h"
 #include "editor/reporting_errors.h"
+#include "util/vb_format.h"
 
 #include <QMouseEvent>
 #include <QPainter>
 
+#include <algorithm>
 #include <vector>
 
 namespace huebase {
@@ -16,6 +19,7 @@ namespace {
 // A mid grey on which both the white line and the black points stand out.
 const QColor kBackground(148, 156, 166);
 const QColor kBaseline(128, 136, 146);
+const QColor kScaleText(44, 50, 58);
 } // namespace
 
 DistributionGraph::DistributionGraph(LutEditorModel& model, QWidget* parent)
@@ -83,6 +87,8 @@ void DistributionGraph::render() {
     painter.setPen(QPen(kBaseline, 1));
     painter.drawLine(QPointF(0, zero), QPointF(width(), zero));
 
+    drawValueScale(painter, zero);
+
     const DistributionCurve& curve = model_.curve();
     std::vector<QLineF> lines;
     lines.reserve(curve.lines().size());
@@ -100,6 +106,25 @@ void DistributionGraph::render() {
                         Qt::SolidLine, Qt::SquareCap));
     painter.drawPoints(points.data(), static_cast<int>(points.size()));
     stale_ = false;
+}
+
+// Round values along the zero line, labelled in the space under it, so the
+// curve can be read against the data's own units.
+void DistributionGraph::drawValueScale(QPainter& painter, double zero) const {
+    const double lo = model_.DataMin();
+    const double hi = model_.DataMax();
+    const int wanted = std::max(2, width() / 90);
+    painter.setFont(font());
+    const int textHeight = painter.fontMetrics().height();
+    for (const double value : axisTicks(lo, hi, wanted)) {
+        const double x = pointAt(value, 0).x();
+        painter.setPen(QPen(kScaleText, 1));
+        painter.drawLine(QPointF(x, zero), QPointF(x, zero + 4));
+        const QString text = QString::fromStdString(floatText(static_cast<float>(value)));
+        const QRectF box(x - 45, zero + 5, 90, textHeight);
+        if (box.bottom() <= height())
+            painter.drawText(box, Qt::AlignHCenter | Qt::AlignTop, text);
+    }
 }
 
 void DistributionGraph::paintEvent(QPaintEvent*) {

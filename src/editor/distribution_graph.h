@@ -6,6 +6,8 @@
 #include <QImage>
 #include <QWidget>
 
+class QPainter;
+
 namespace huebase {
 
 class LutEditorModel;
@@ -45,6 +47,7 @@ protected:
 private:
     void graphPrepared() override;
     void render();
+    void drawValueScale(QPainter& painter, double zero) const;
 
     LutEditorModel& model_;
     QImage image_;

@@ -109,14 +109,21 @@ void NodeTabStrip::paintEvent(QPaintEvent* event) {
         return;
     const QRect dirty = event->rect();
     const std::vector<NodeRow>& rows = model_.rows().all();
-    for (int k = 0; k < static_cast<int>(rows.size()); ++k) {
-        const QRect r = tabRect(k);
-        if (!r.intersects(dirty))
-            continue;
-        const QColor fill = toQColor(rows[k].color);
-        painter.fillRect(r, fill);
-        painter.setPen(outlineFor(fill));
-        painter.drawRect(r.adjusted(0, 0, -1, -1));
+    const int count = static_cast<int>(rows.size());
+    QRect r = count > 0 ? tabRect(0) : QRect();
+    for (int k = 0; k < count; ++k) {
+        const QRect next = k + 1 < count ? tabRect(k + 1) : QRect();
+        if (r.intersects(dirty)) {
+            const QColor fill = toQColor(rows[k].color);
+            painter.fillRect(r, fill);
+            // Outlined only when the next button leaves it whole: where nodes
+            // crowd, outlines would hide their colours.
+            if (next.isNull() || !next.intersects(r)) {
+                painter.setPen(outlineFor(fill));
+                painter.drawRect(r.adjusted(0, 0, -1, -1));
+            }
+        }
+        r = next;
     }
     if (hasFocus() && current_ < model_.rowCount()) {
         const QRect r = tabRect(current_).adjusted(-2, -1, 1, 0);
