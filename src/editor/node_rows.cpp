@@ -38,7 +38,12 @@ template <typename Range, typename Key> bool nonDecreasing(const Range& range, K
 
 } // namespace
 
-NodeRows::NodeRows() : rows_(2) {}
+// The ends of a table are locked: their values move only from the graph or by
+// loading another table.
+NodeRows::NodeRows() : rows_(2) {
+    rows_[0].locked = true;
+    rows_[1].locked = true;
+}
 
 void NodeRows::checkIndex(int k) const {
     if (k < 0 || k >= count())
@@ -168,11 +173,18 @@ int NodeRows::insertEach(const std::vector<float>& values) {
         return insertEachMerged(values, room);
 
     // Rows out of order (a typed value may leave its bounds): the intervals
-    // may overlap, so only inserting one value at a time gives the same result.
+    // may overlap, so only inserting one value at a time places them right.
+    const NodeRows before = *this;
     int added = 0;
-    for (float x : values)
-        if (insertAt(x) >= 0)
-            ++added;
+    for (float x : values) {
+        const int k = insertAt(x);
+        if (k < 0)
+            continue;
+        const int i = before.intervalHolding(x);
+        if (i >= 0)
+            rows_[k].color = before.rampColorAt(i, x);
+        ++added;
+    }
     return added;
 }
 
@@ -210,6 +222,7 @@ int NodeRows::insertEachMerged(const std::vector<float>& values, std::size_t roo
                 break;
             }
             NodeRow row = insertedRow(merged.back(), next, x);
+            row.color = rampColor(rows_[i], next, x);
             merged.back().upper = x;
             merged.push_back(row);
             nextTakesLower = true;

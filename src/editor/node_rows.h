@@ -18,7 +18,8 @@ class NodeRows {
 public:
     static constexpr int kMaxRows = 32767;
 
-    // Two rows, the first and the last node, both "Lin", everything else zero.
+    // Two rows, the first and the last node, both "Lin" and locked,
+    // everything else zero.
     NodeRows();
 
     int count() const noexcept { return static_cast<int>(rows_.size()); }
@@ -70,8 +71,11 @@ public:
     // Error 6 when the rows are full.
     int insertAt(float x);
 
-    // The same as insertAt for each value in turn, in one pass. Returns the
-    // number of nodes added. When the rows fill up, the values that fit are
+    // The same as insertAt for each value in turn, in one pass, except that
+    // every new node takes its colour from the ramp as it stood before the
+    // first insertion: blending each from the node inserted just before it
+    // would round away the small steps between close values and flatten the
+    // ramp. Returns the number of nodes added. When the rows fill up, the values that fit are
     // inserted and error 6 is raised.
     int insertEach(const std::vector<float>& values);
 

@@ -51,8 +51,8 @@ TEST(EditorModelStart, FreshEditorHasTwoLinRowsNoDragAndTheDesignTooltip) {
 
 TEST_F(EditorModelTest, GivenADistributionTheEditorHoldsABlackToWhiteRampOverTheDataRange) {
     EXPECT_EQ(editor.row(0), (NodeRow{0, 0, 0, true, MethodLin, 0}));
-    // Only the first row is locked by preparing the ends.
-    EXPECT_EQ(editor.row(1), (NodeRow{200, 200, 200, false, MethodLin, kWhite}));
+    // Both ends start locked, so neither end can be typed over.
+    EXPECT_EQ(editor.row(1), (NodeRow{200, 200, 200, true, MethodLin, kWhite}));
     EXPECT_TRUE(editor.tabsPlaced());
     EXPECT_EQ(editor.tabToolTip(1), "200");
     EXPECT_EQ(editor.valueText(1), "200");

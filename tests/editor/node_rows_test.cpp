@@ -132,14 +132,17 @@ TEST(NodeRowsInsert, FullRowsAreOverflow) {
 }
 
 // Inserting many values in one pass must leave exactly the rows that inserting
-// them one at a time leaves, colours included (each insertion blends from the
-// node inserted before it).
+// them one at a time leaves, each new node coloured from the starting ramp.
 void expectSameAsOneAtATime(const NodeRows& start, const std::vector<float>& values) {
     NodeRows oneByOne = start;
     int expectedAdded = 0;
-    for (float x : values)
-        if (oneByOne.insertAt(x) >= 0)
-            ++expectedAdded;
+    for (float x : values) {
+        const int k = oneByOne.insertAt(x);
+        if (k < 0)
+            continue;
+        oneByOne.setColor(k, start.rampColorAt(start.intervalHolding(x), x));
+        ++expectedAdded;
+    }
     NodeRows merged = start;
     EXPECT_EQ(merged.insertEach(values), expectedAdded);
     ASSERT_EQ(merged.count(), oneByOne.count());
@@ -208,6 +211,20 @@ TEST(NodeRowsButtons, TheTopmostButtonUnderAValueIsTheLaterRow) {
     rows.passOffset(1, 12); // out of order: the search falls back to a scan
     EXPECT_EQ(rows.buttonAt(11.6f, 1.0f), 2);
     EXPECT_EQ(rows.buttonAt(12.8f, 1.0f), 1);
+}
+
+TEST(NodeRowsInsertEach, CloseValuesFollowTheStartingRampInsteadOfStalling) {
+    // 1,000 values one unit apart on a black-to-white ramp of 2,000 units:
+    // each step is a quarter of a grey level, which blending from the node
+    // inserted just before would round away.
+    NodeRows rows = rowsFrom({node(0, MethodLin, 0), node(2000, MethodLin, kWhite)});
+    std::vector<float> values;
+    for (int v = 500; v < 1500; ++v)
+        values.push_back(static_cast<float>(v));
+    ASSERT_EQ(rows.insertEach(values), 1000);
+    EXPECT_EQ(RedOf(rows[1].color), 64);    // 500 / 2000 of 255 = 63.75
+    EXPECT_EQ(RedOf(rows[500].color), 127); // 999 / 2000 of 255 = 127.4
+    EXPECT_EQ(RedOf(rows[1000].color), 191);
 }
 
 } // namespace
