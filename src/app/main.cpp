@@ -1,14 +1,38 @@
 #include "app/app_options.h"
+#include "app/first_paint_stamp.h"
+#include "app/process_exit.h"
 #include "app/qt_message_responder.h"
+#include "host/automation_notifier.h"
+#include "host/command_notifier.h"
+#include "host/mi_lut.h"
 #include "util/messages.h"
 #include "util/program_exit.h"
 
+#ifdef _WIN32
+#include "host/com_automation.h"
+#else
+#include "host/unavailable_automation.h"
+#endif
+
 #include <QApplication>
 #include <QDir>
-#include <QLabel>
 
 #include <cstdio>
 #include <iostream>
+#include <optional>
+
+namespace {
+
+// The folder of the exchange files and the library: --folder, or the
+// executable's own folder.
+std::string programFolder(const huebase::AppOptions& options) {
+    const QString folder = options.folder.empty()
+                               ? QApplication::applicationDirPath()
+                               : QDir(QString::fromStdString(options.folder)).absolutePath();
+    return QDir::toNativeSeparators(folder).toStdString();
+}
+
+} // namespace
 
 int main(int argc, char* argv[]) {
     std::vector<std::string> args(argv + 1, argv + argc);
@@ -32,20 +56,30 @@ int main(int argc, char* argv[]) {
     QApplication::setApplicationDisplayName("Huebase");
     QApplication::setApplicationVersion(HUEBASE_VERSION);
     huebase::setMessageResponder(huebase::showQtMessageBox);
-    huebase::setProgramExitHandler([](int code) {
-        std::fflush(nullptr);
-        std::exit(code);
-    });
+    huebase::setProgramExitHandler(huebase::endProcess);
 
-    const QString folder = options->folder.empty() ? QApplication::applicationDirPath()
-                                                   : QDir(QString::fromStdString(options->folder))
-                                                         .absolutePath();
-    QLabel window(QString("<h2>Huebase</h2><p>Colour tables for gridded data.</p>"
-                          "<p>Program folder: %1</p>")
-                      .arg(folder.toHtmlEscaped()));
-    window.setObjectName("MILut");
-    window.setWindowTitle("Huebase");
-    window.setMargin(24);
+    // Start-up measurements ask for the time the editor is first on screen.
+    std::optional<huebase::FirstPaintStamp> paintStamp;
+    if (qEnvironmentVariableIsSet("HUEBASE_PAINT_STAMP")) {
+        paintStamp.emplace("lut", stderr);
+        app.installEventFilter(&*paintStamp);
+    }
+
+#ifdef _WIN32
+    huebase::ComAutomation automation;
+#else
+    huebase::UnavailableAutomation automation;
+#endif
+    huebase::AutomationNotifier automationNotifier(automation);
+    huebase::CommandNotifier commandNotifier(options->notifyCommand);
+    huebase::HostNotifier& notifier = options->notifyCommand.empty()
+                                          ? static_cast<huebase::HostNotifier&>(automationNotifier)
+                                          : commandNotifier;
+
+    // Everything up to the editor happens before the startup window shows:
+    // without "col.tmp" the program has ended by then and shown nothing.
+    huebase::MILut window(programFolder(*options), notifier);
+    window.Form_Load();
     window.show();
     return QApplication::exec();
 }

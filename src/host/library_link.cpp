@@ -1,0 +1,22 @@
+#include "host/library_link.h"
+
+#include "browser/lut_library.h"
+#include "editor/lut_editor_window.h"
+
+namespace huebase {
+
+void linkLibrary(LutEditorWindow& editor, const std::string& programFolder) {
+    QObject::connect(
+        &editor, &LutEditorWindow::openBrowserRequested, &editor, [&editor, programFolder] {
+            LutLibrary::browse(&editor, programFolder, editor.DataMin(), editor.DataMax(),
+                               [&editor](const LutTable& table, ColorValue noData) {
+                                   editor.SetLutTable(table);
+                                   editor.setNoDataColor(noData);
+                               });
+        });
+    QObject::connect(&editor, &LutEditorWindow::saveRequested, &editor, [&editor, programFolder] {
+        LutLibrary::saveAs(&editor, programFolder, editor.model().lutTable(), editor.noDataColor());
+    });
+}
+
+} // namespace huebase
