@@ -65,7 +65,10 @@ function(huebase_test name)
     endif()
     if(ARG_XVFB)
         target_compile_definitions(${name} PRIVATE HUEBASE_TEST_NEEDS_X=1)
-        gtest_discover_tests(${name} DISCOVERY_TIMEOUT 60 PROPERTIES LABELS xvfb TIMEOUT 120)
+        # One X display is shared by all of them: the pointer, the focus and the
+        # screen contents are global, so they run one at a time.
+        gtest_discover_tests(${name} DISCOVERY_TIMEOUT 60
+                             PROPERTIES LABELS xvfb TIMEOUT 120 RESOURCE_LOCK x_display)
     else()
         gtest_discover_tests(${name} DISCOVERY_TIMEOUT 60 PROPERTIES TIMEOUT 120)
     endif()
