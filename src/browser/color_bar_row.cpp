@@ -55,7 +55,7 @@ QString noteFor(const QStringList& notes) {
     if (notes.isEmpty())
         return {};
     if (notes.front().startsWith("Can't do that for"))
-        return "Clip refused, shown as \u201cClip data to colors\u201d";
+        return "Clip refused";
     if (notes.size() == 1)
         return notes.front();
     return QString("%1 (and %2 more)").arg(notes.front()).arg(notes.size() - 1);
@@ -71,6 +71,8 @@ ColorBarRow::ColorBarRow(QWidget* parent)
     SelectBtn_->setObjectName("SelectBtn");
     SelectBtn_->setToolTip("Use this colour table in the editor");
     SelectBtn_->setEnabled(false);
+    // Enter in the browser must not pick whichever row was made first.
+    SelectBtn_->setAutoDefault(false);
     ColorBar_ = new RowColorBar(model_, this);
     MinVal_ = textBox("MinVal", "Lower bound", this);
     MaxVal_ = textBox("MaxVal", "Upper bound", this);

@@ -25,7 +25,7 @@ namespace huebase {
 namespace {
 
 // Narrower than this the rows scroll sideways rather than squeeze the bar.
-constexpr int kMinRowsWidth = 520;
+constexpr int kMinRowsWidth = 480;
 
 struct OptionText {
     const char* caption;
@@ -139,7 +139,8 @@ void LUTBrowser::buildControls() {
     DirList_->setFixedWidth(220);
     FileList_->setFixedWidth(220);
     setMinimumSize(720, 420);
-    FileList_->setFocus();
+    // Not the file list: focusing it would choose its first file.
+    Option_[0]->setFocus();
 
     connect(DriveList_, &QComboBox::activated, this, &LUTBrowser::driveChosen);
     connect(DirList_, &FolderList::pathChanged, this, &LUTBrowser::folderChanged);
@@ -248,7 +249,8 @@ void LUTBrowser::setFittingMode(std::int16_t mode) {
 void LUTBrowser::layoutRows() {
     if (rowHeight_ == 0 && !rows_.empty())
         rowHeight_ = rows_.front()->sizeHint().height();
-    const int width = std::max(RowColContainerSup_->width(), kMinRowsWidth);
+    const int width = rows_.empty() ? RowColContainerSup_->width()
+                                    : std::max(RowColContainerSup_->width(), kMinRowsWidth);
     const QPalette& colors = palette();
     const QColor base = colors.color(QPalette::Base);
     const QColor highlight = colors.color(QPalette::Highlight);
