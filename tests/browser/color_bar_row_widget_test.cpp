@@ -79,19 +79,6 @@ TEST_F(RowWidgetTest, AFilePathShowsThePathTheBoundsAndTheTablesName) {
     EXPECT_EQ(text("Text1").text(), "Coast");
 }
 
-TEST_F(RowWidgetTest, PersistedPropertiesAreShownAndWrittenBack) {
-    row.ReadProperties({{"FilePath", Variant("C:\\maps\\myLuts\\a.lut")},
-                        {"Min", Variant("low")},
-                        {"ToolTipText", Variant("tip")}});
-    EXPECT_EQ(text("Pathtxt").text(), "C:\\maps\\myLuts\\a.lut");
-    EXPECT_EQ(text("MinVal").text(), "low");
-    EXPECT_EQ(text("MaxVal").text(), "MaxVal");
-    EXPECT_EQ(row.toolTip(), "tip");
-    const PropertyBag written = row.WriteProperties();
-    EXPECT_EQ(written.at("FilePath"), Variant("C:\\maps\\myLuts\\a.lut"));
-    EXPECT_EQ(written.at("Min"), Variant("low"));
-}
-
 // --- Fitting through the ApplyOptions property ---------------------------------------
 
 TEST_F(RowWidgetTest, TheApplyOptionsPropertyRefitsTheFileAsStoredOnDisk) {
