@@ -2,7 +2,7 @@
 #include "browser/lut_file.h"
 
 #include "support/service_recorder.h"
-#include "util/scratch_folder.h"
+#include "support/scratch_folder.h"
 
 #include <gtest/gtest.h>
 

@@ -2,8 +2,8 @@
 #include "util/vb_error.h"
 
 #include "support/service_recorder.h"
-#include "util/numeric_locale.h"
-#include "util/scratch_folder.h"
+#include "support/numeric_locale.h"
+#include "support/scratch_folder.h"
 
 #include <gtest/gtest.h>
 

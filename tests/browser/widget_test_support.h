@@ -2,8 +2,9 @@
 
 #include "browser/lut_file.h"
 #include "core/lut_node.h"
+#include "support/modal_window.h"
 
-#include "util/scratch_folder.h"
+#include "support/scratch_folder.h"
 
 #include <QApplication>
 #include <QElapsedTimer>
@@ -18,31 +19,6 @@
 #include <vector>
 
 namespace huebase::testing {
-
-// Runs act on the first modal window of type Window that opens, from inside
-// its event loop. If none opens within five seconds the test fails and any
-// modal window still open is closed, so that no test hangs.
-template <typename Window> void whenModalOpens(std::function<void(Window&)> act) {
-    auto* poll = new QTimer;
-    auto clock = std::make_shared<QElapsedTimer>();
-    clock->start();
-    QObject::connect(poll, &QTimer::timeout, [poll, act, clock] {
-        if (auto* modal = qobject_cast<Window*>(QApplication::activeModalWidget())) {
-            poll->stop();
-            poll->deleteLater();
-            act(*modal);
-            return;
-        }
-        if (clock->elapsed() > 5000) {
-            poll->stop();
-            poll->deleteLater();
-            ADD_FAILURE() << "the expected modal window did not open";
-            if (QWidget* stuck = QApplication::activeModalWidget())
-                stuck->close();
-        }
-    });
-    poll->start(10);
-}
 
 // A table of nodes at the given values, method "Lin", coloured from blue
 // through the given colours (cycled), each upper limit the next value.

@@ -2,6 +2,7 @@
 
 #include "color/color_patch.h"
 #include "color/color_ref_dialog.h"
+#include "support/modal_window.h"
 
 #include <QApplication>
 #include <QElapsedTimer>
@@ -15,31 +16,6 @@
 #include <memory>
 
 namespace huebase::testing {
-
-// Runs act on the first modal window of type Window that opens, from inside
-// its event loop. If none opens within five seconds the test fails; any modal
-// window still open then is closed so that no test hangs.
-template <typename Window> void whenModalOpens(std::function<void(Window&)> act) {
-    auto* poll = new QTimer;
-    auto clock = std::make_shared<QElapsedTimer>();
-    clock->start();
-    QObject::connect(poll, &QTimer::timeout, [poll, act, clock] {
-        if (auto* modal = qobject_cast<Window*>(QApplication::activeModalWidget())) {
-            poll->deleteLater();
-            poll->stop();
-            act(*modal);
-            return;
-        }
-        if (clock->elapsed() > 5000) {
-            poll->deleteLater();
-            poll->stop();
-            ADD_FAILURE() << "the expected modal window did not open";
-            if (QWidget* stuck = QApplication::activeModalWidget())
-                stuck->close();
-        }
-    });
-    poll->start(10);
-}
 
 // Controls of a colour dialog, found by their names.
 struct DialogControls {

@@ -3,7 +3,7 @@
 #include "host/unavailable_automation.h"
 
 #include "memory_automation.h"
-#include "scratch_folder.h"
+#include "support/scratch_folder.h"
 #include "support/service_recorder.h"
 
 #include <gtest/gtest.h>

@@ -1,6 +1,6 @@
 #include "host/command_notifier.h"
 
-#include "scratch_folder.h"
+#include "support/scratch_folder.h"
 
 #include <gtest/gtest.h>
 

@@ -5,7 +5,7 @@
 #include "core/color_value.h"
 #include "host/export_format.h"
 
-#include "scratch_folder.h"
+#include "support/scratch_folder.h"
 
 #include <QProcess>
 #include <QProcessEnvironment>

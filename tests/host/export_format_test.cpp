@@ -1,7 +1,7 @@
 #include "host/export_format.h"
 #include "util/vb_error.h"
 
-#include "numeric_locale.h"
+#include "support/numeric_locale.h"
 
 #include <gtest/gtest.h>
 

@@ -1,7 +1,7 @@
 #include "host/host_session.h"
 #include "util/misc_files.h"
 
-#include "scratch_folder.h"
+#include "support/scratch_folder.h"
 #include "support/service_recorder.h"
 
 #include <gtest/gtest.h>

@@ -11,7 +11,8 @@
 #include "editor/lut_editor_window.h"
 #include "host/host_notifier.h"
 
-#include "scratch_folder.h"
+#include "support/modal_window.h"
+#include "support/scratch_folder.h"
 #include "support/service_recorder.h"
 
 #include <QApplication>
@@ -41,29 +42,6 @@ public:
 
     std::vector<std::string> statuses;
 };
-
-// Runs act on the first modal window of type Window that opens, from inside
-// its own event loop; after five seconds without one the test fails and
-// whatever modal window is open gets closed, so that nothing hangs.
-template <typename Window> void whenModalOpens(std::function<void(Window&)> act) {
-    auto* poll = new QTimer;
-    auto clock = std::make_shared<QElapsedTimer>();
-    clock->start();
-    QObject::connect(poll, &QTimer::timeout, [poll, act, clock] {
-        if (auto* modal = qobject_cast<Window*>(QApplication::activeModalWidget())) {
-            poll->stop();
-            poll->deleteLater();
-            act(*modal);
-        } else if (clock->elapsed() > 5000) {
-            poll->stop();
-            poll->deleteLater();
-            ADD_FAILURE() << "the expected modal window did not open";
-            if (QWidget* stuck = QApplication::activeModalWidget())
-                stuck->close();
-        }
-    });
-    poll->start(10);
-}
 
 void click(QWidget& window, const char* name) {
     auto* button = window.findChild<QPushButton*>(name);
@@ -157,7 +135,7 @@ TEST_F(MILutTest, OkInTheEditorRewritesLutTmpInHostColoursAndTellsTheHost) {
     const LutTable ramp = {{10.0f, MethodLin, 0x0000FF, 30.0f},
                            {30.0f, MethodNone, 0xFF0000, 30.0f}};
     bool editorWasShown = false;
-    whenModalOpens<LutEditorWindow>([&](LutEditorWindow& shown) {
+    testing::whenModalOpens<LutEditorWindow>([&](LutEditorWindow& shown) {
         editorWasShown = shown.isVisible();
         shown.SetLutTable(ramp);
         click(shown, "OK");
@@ -179,7 +157,7 @@ TEST_F(MILutTest, OkInTheEditorRewritesLutTmpInHostColoursAndTellsTheHost) {
 
 TEST_F(MILutTest, OkInTheEditorWithoutLutTmpEndsWithoutTellingTheHost) {
     folder_.write("col.tmp", "10,4\n20,1\n");
-    whenModalOpens<LutEditorWindow>([](LutEditorWindow& shown) { click(shown, "OK"); });
+    testing::whenModalOpens<LutEditorWindow>([](LutEditorWindow& shown) { click(shown, "OK"); });
     window_.Form_Load();
     EXPECT_FALSE(std::filesystem::exists(folder_.path() / "lut.tmp"));
     EXPECT_TRUE(notifier_.statuses.empty());
@@ -189,7 +167,7 @@ TEST_F(MILutTest, OkInTheEditorWithoutLutTmpEndsWithoutTellingTheHost) {
 TEST_F(MILutTest, AnUnreadableExportTableIsReportedAndTheHostToldOfTheFailure) {
     folder_.write("col.tmp", "10,4\n20,1\n");
     folder_.write("lut.tmp", "10,1\n20\n");
-    whenModalOpens<LutEditorWindow>([](LutEditorWindow& shown) { click(shown, "OK"); });
+    testing::whenModalOpens<LutEditorWindow>([](LutEditorWindow& shown) { click(shown, "OK"); });
     window_.Form_Load();
     ASSERT_EQ(services_.messages().size(), 1u);
     EXPECT_EQ(services_.messages()[0].text, "Can't find export values table");
@@ -226,7 +204,7 @@ TEST_F(MILutTest, TheEditorsLibraryButtonFitsAStarterRampFromMyLutsIntoTheEditor
     folder_.write("myLuts/ramp.lut", LutFile::text(saved, 0x123456, '.'));
     ASSERT_TRUE(window_.loadValues());
 
-    whenModalOpens<LUTBrowser>([](LUTBrowser& browser) {
+    testing::whenModalOpens<LUTBrowser>([](LUTBrowser& browser) {
         ASSERT_EQ(browser.rows().size(), 1u);
         QTest::mouseClick(browser.rows()[0]->findChild<QPushButton*>("SelectBtn"), Qt::LeftButton);
     });

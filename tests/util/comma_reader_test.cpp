@@ -1,8 +1,8 @@
 #include "util/comma_reader.h"
 #include "util/vb_error.h"
 
-#include "numeric_locale.h"
-#include "scratch_folder.h"
+#include "support/numeric_locale.h"
+#include "support/scratch_folder.h"
 
 #include <gtest/gtest.h>
 

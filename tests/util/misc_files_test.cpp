@@ -1,7 +1,7 @@
 #include "util/misc_files.h"
 #include "util/vb_error.h"
 
-#include "scratch_folder.h"
+#include "support/scratch_folder.h"
 
 #include <gtest/gtest.h>
 

@@ -1,7 +1,7 @@
 #include "util/vb_error.h"
 #include "util/vb_format.h"
 
-#include "numeric_locale.h"
+#include "support/numeric_locale.h"
 
 #include <gtest/gtest.h>
 
