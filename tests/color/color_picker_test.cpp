@@ -1,6 +1,5 @@
 #include "color/color_chooser.h"
 #include "color/color_picker.h"
-#include "color/qt_color.h"
 
 #include "dialog_test_support.h"
 
@@ -21,78 +20,58 @@ ColorValue rgb(int r, int g, int b) {
     return composeColor(r, g, b);
 }
 
-struct ChangeLog {
-    explicit ChangeLog(ColorPicker& picker) {
-        QObject::connect(&picker, &ColorPicker::Changed,
-                         [this](ColorValue color) { colors.push_back(color); });
-    }
-    std::vector<ColorValue> colors;
+// Opens the swatch's dialog by a click or from code, notes the dialog and
+// the red and blue it shows, sets one box and closes it with the button.
+struct Opening {
+    QPointer<frmColorRef> dialog;
+    QString shown;
 };
-
-TEST(ColorPicker, SettingTheColourAlwaysRaisesChanged) {
-    ColorPicker picker(nullptr, rgb(1, 2, 3));
-    ChangeLog log(picker);
-    EXPECT_EQ(picker.color(), rgb(1, 2, 3));
-    picker.setColor(rgb(4, 5, 6));
-    picker.setColor(rgb(4, 5, 6));
-    picker.setProperty("color", rgb(7, 8, 9));
-    EXPECT_EQ(log.colors, (std::vector<ColorValue>{rgb(4, 5, 6), rgb(4, 5, 6), rgb(7, 8, 9)}));
-    EXPECT_EQ(picker.color(), rgb(7, 8, 9));
-}
-
-TEST(ColorPicker, OkWritesTheDialogColourBack) {
-    ColorPicker picker(nullptr, rgb(10, 20, 30));
-    ChangeLog log(picker);
-    QString shownRed;
+Opening open(ColorPicker& picker, bool byMouse, const char* box, const char* button) {
+    Opening seen;
     whenModalOpens<frmColorRef>([&](frmColorRef& dialog) {
         DialogControls ui(dialog);
-        shownRed = ui.edit("txtR").text();
-        ui.edit("txtR").setText("200");
-        QTest::mouseClick(&ui.find<QPushButton>("OK"), Qt::LeftButton);
+        seen = {&dialog, ui.edit("txtR").text() + "," + ui.edit("txtB").text()};
+        ui.edit(box).setText("200");
+        QTest::mouseClick(&ui.find<QPushButton>(button), Qt::LeftButton);
     });
-    picker.UserControl_Click();
-    EXPECT_EQ(shownRed, "10"); // opened on the swatch's colour
-    EXPECT_EQ(picker.color(), rgb(200, 20, 30));
-    EXPECT_EQ(log.colors, std::vector<ColorValue>{rgb(200, 20, 30)});
+    if (byMouse)
+        QTest::mouseClick(&picker, Qt::LeftButton);
+    else
+        picker.UserControl_Click();
+    return seen;
 }
 
-TEST(ColorPicker, CancelLeavesTheColourAndRaisesNothing) {
-    ColorPicker picker(nullptr, rgb(10, 20, 30));
-    ChangeLog log(picker);
-    whenModalOpens<frmColorRef>([](frmColorRef& dialog) {
-        DialogControls ui(dialog);
-        ui.edit("txtG").setText("99");
-        QTest::mouseClick(&ui.find<QPushButton>("Cancel"), Qt::LeftButton);
-    });
-    picker.UserControl_Click();
-    EXPECT_EQ(picker.color(), rgb(10, 20, 30));
-    EXPECT_TRUE(log.colors.empty());
-}
+TEST(Swatch, RaisesChangedOnEverySetAndOnOkOnly) {
+    auto picker = std::make_unique<ColorPicker>(nullptr, rgb(10, 20, 30));
+    std::vector<ColorValue> changes;
+    QObject::connect(picker.get(), &ColorPicker::Changed,
+                     [&](ColorValue color) { changes.push_back(color); });
+    picker->setColor(rgb(10, 20, 30));
+    picker->setProperty("color", rgb(10, 20, 30));
+    EXPECT_EQ(changes, (std::vector<ColorValue>{rgb(10, 20, 30), rgb(10, 20, 30)}));
 
-TEST(ColorPicker, KeepsOneDialogForItsLife) {
-    auto picker = std::make_unique<ColorPicker>(nullptr, rgb(1, 1, 1));
-    QPointer<frmColorRef> first;
-    whenModalOpens<frmColorRef>([&](frmColorRef& dialog) {
-        first = &dialog;
-        dialog.reject();
-    });
-    QTest::mouseClick(picker.get(), Qt::LeftButton); // a real click opens it too
-    ASSERT_FALSE(first.isNull());
+    changes.clear();
+    const Opening cancelled = open(*picker, true, "txtG", "Cancel");
+    EXPECT_EQ(cancelled.shown, "10,30"); // opened on the swatch's colour
+    EXPECT_EQ(picker->color(), rgb(10, 20, 30));
+    EXPECT_TRUE(changes.empty());
 
-    picker->setColor(rgb(0, 0, 250));
-    QPointer<frmColorRef> second;
-    QString shownBlue;
-    whenModalOpens<frmColorRef>([&](frmColorRef& dialog) {
-        second = &dialog;
-        shownBlue = DialogControls(dialog).edit("txtB").text();
-        dialog.reject();
-    });
-    picker->UserControl_Click();
-    EXPECT_EQ(second, first);
-    EXPECT_EQ(shownBlue, "250");
+    picker->setColor(rgb(10, 20, 250));
+    changes.clear();
+    const Opening accepted = open(*picker, false, "txtR", "OK");
+    EXPECT_EQ(accepted.dialog, cancelled.dialog); // one dialog, reloaded on each opening
+    EXPECT_EQ(accepted.shown, "10,250");
+    EXPECT_EQ(picker->color(), rgb(200, 20, 250));
+    EXPECT_EQ(changes, std::vector<ColorValue>{rgb(200, 20, 250)});
 
     picker.reset();
-    EXPECT_TRUE(first.isNull());
+    EXPECT_TRUE(cancelled.dialog.isNull()); // it lives as long as the swatch
+}
+
+TEST(SystemChooser, CentresByHalvingTheDifferenceRoundingTiesToEven) {
+    // 300 x 200 area at (100, 50); window 101 x 51: 199.5 -> 200, 124.5 -> 124.
+    EXPECT_EQ(centredOrigin({100, 50, 400, 250}, 101, 51), (ScreenPoint{200, 124}));
+    EXPECT_EQ(centredOrigin({10, 10, 110, 60}, 200, 100), (ScreenPoint{-40, -15}));
 }
 
 // The custom colours are process-wide, so the whole story of the system
@@ -104,55 +83,50 @@ TEST(SystemChooser, StartsFromTheLastChoiceAndKeepsCustomColours) {
     dialog.move(200, 150);
     dialog.show();
     DialogControls ui(dialog);
-    auto& change = ui.find<QPushButton>("cmdChange");
+    struct Use {
+        QColor started;
+        std::vector<QRgb> customs; // Qt keeps no alpha in custom colours
+        QPoint centre;
+    };
+    const auto use = [&](std::function<void(QColorDialog&)> act) {
+        Use seen;
+        whenModalOpens<QColorDialog>([&](QColorDialog& chooser) {
+            seen.started = chooser.currentColor();
+            for (int i = 0; i < QColorDialog::customCount(); ++i)
+                seen.customs.push_back(QColorDialog::customColor(i).rgb() & 0xFFFFFFu);
+            seen.centre = chooser.frameGeometry().center();
+            act(chooser);
+        });
+        QTest::mouseClick(&ui.find<QPushButton>("cmdChange"), Qt::LeftButton);
+        return seen;
+    };
 
-    // First use: black, custom colours near-white, centred on the dialog.
-    QColor started;
-    std::vector<QRgb> customs;
-    QPoint chooserCentre;
-    whenModalOpens<QColorDialog>([&](QColorDialog& chooser) {
-        started = chooser.currentColor();
-        for (int i = 0; i < QColorDialog::customCount(); ++i)
-            customs.push_back(QColorDialog::customColor(i).rgba());
-        chooserCentre = chooser.frameGeometry().center();
+    const Use first = use([](QColorDialog& chooser) {
         chooser.setCurrentColor(QColor(12, 34, 56));
         chooser.accept();
     });
-    QTest::mouseClick(&change, Qt::LeftButton);
-    EXPECT_EQ(started, QColor(0, 0, 0));
-    ASSERT_EQ(customs.size(), 16u);
-    for (const QRgb c : customs)
-        EXPECT_EQ(c & 0xFFFFFFu, 0xFEFEFEu); // Qt keeps no alpha in custom colours
-    EXPECT_LE((chooserCentre - dialog.frameGeometry().center()).manhattanLength(), 2);
+    EXPECT_EQ(first.started, QColor(0, 0, 0));
+    EXPECT_EQ(first.customs, std::vector<QRgb>(16, 0xFEFEFEu));
+    EXPECT_LE((first.centre - dialog.frameGeometry().center()).manhattanLength(), 2);
     EXPECT_EQ(dialog.color(), rgb(12, 34, 56));
     EXPECT_EQ(ui.edit("txtB").text(), "56");
-    EXPECT_EQ(dialog.LastChoice(), (ColorChoice{rgb(12, 34, 56), false}));
 
-    // Second use starts from that choice, not from the current colour; the
-    // user defines a custom colour and cancels.
+    // The next use starts from that choice, not from the current colour; the
+    // user defines a custom colour and cancels, which keeps the colour.
     ui.edit("txtR").setText("99");
-    whenModalOpens<QColorDialog>([&](QColorDialog& chooser) {
-        started = chooser.currentColor();
+    const Use second = use([](QColorDialog& chooser) {
         QColorDialog::setCustomColor(3, QColor(1, 2, 3));
         chooser.reject();
     });
-    QTest::mouseClick(&change, Qt::LeftButton);
-    EXPECT_EQ(started, QColor(12, 34, 56));
+    EXPECT_EQ(second.started, QColor(12, 34, 56));
     EXPECT_EQ(dialog.color(), rgb(99, 34, 56));
     EXPECT_EQ(dialog.LastChoice(), (ColorChoice{0, true}));
 
     // After a cancel the chooser starts at black; custom colours are kept.
-    QRgb kept = 0;
-    whenModalOpens<QColorDialog>([&](QColorDialog& chooser) {
-        started = chooser.currentColor();
-        kept = QColorDialog::customColor(3).rgba();
-        chooser.reject();
-    });
-    const ColorChoice direct = modColorDialog::ShowColorChooser(&dialog, true, 0);
-    EXPECT_EQ(started, QColor(0, 0, 0));
-    EXPECT_EQ(kept, QColor(1, 2, 3).rgba());
-    EXPECT_TRUE(direct.Cancelled);
-    EXPECT_EQ(direct.Color, 0);
+    const Use third = use([](QColorDialog& chooser) { chooser.reject(); });
+    EXPECT_EQ(third.started, QColor(0, 0, 0));
+    ASSERT_EQ(third.customs.size(), 16u);
+    EXPECT_EQ(third.customs[3], 0x010203u);
 }
 
 } // namespace

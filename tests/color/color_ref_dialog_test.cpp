@@ -5,15 +5,12 @@
 #include "fake_screen.h"
 #include "support/service_recorder.h"
 
-#include <QLabel>
 #include <QPushButton>
 #include <QTest>
 #include <QToolButton>
 
 namespace huebase {
 namespace {
-
-using testing::DialogControls;
 
 ColorValue rgb(int r, int g, int b) {
     return composeColor(r, g, b);
@@ -22,270 +19,203 @@ ColorValue rgb(int r, int g, int b) {
 class ColorDialogTest : public ::testing::Test {
 protected:
     ColorDialogTest()
-        : dialog(nullptr, std::make_unique<testing::FakeScreen>(640, 480)), ui(dialog) {}
+        : screen(new testing::FakeScreen(320, 200)),
+          dialog(nullptr, std::unique_ptr<testing::FakeScreen>(screen)), ui(dialog) {}
 
-    void open(ColorValue color) {
+    void open(ColorValue color) { // the displays refresh when the dialog is shown
+        dialog.hide();
         dialog.setColor(color);
         dialog.show();
     }
-
+    // The box or slider of a letter of "RGBHSL".
+    QLineEdit& box(char letter) const { return ui.edit(("txt" + std::string(1, letter)).c_str()); }
+    QScrollBar& bar(char letter) const { return ui.slider(("v" + std::string(1, letter)).c_str()); }
+    QString texts(const char* letters) const {
+        QStringList shown;
+        for (const char* l = letters; *l != 0; ++l)
+            shown << box(*l).text();
+        return shown.join(',');
+    }
     // Replaces the box's text by typing, key by key, as a user does.
-    void type(const char* box, const char* text) {
-        QLineEdit& edit = ui.edit(box);
-        edit.setFocus();
-        edit.selectAll();
-        QTest::keyClicks(&edit, text);
+    void type(char letter, const char* text) {
+        box(letter).setFocus();
+        box(letter).selectAll();
+        QTest::keyClicks(&box(letter), text);
+    }
+    static QColor colorOf(QWidget& w, QPalette::ColorRole role = QPalette::Text) {
+        return w.palette().color(role);
+    }
+    void click(QWidget& w, QPoint at = {}) { QTest::mouseClick(&w, Qt::LeftButton, {}, at); }
+    void click(const char* button) { click(ui.find<QPushButton>(button)); }
+    std::vector<ColorValue> strip() const {
+        std::vector<ColorValue> colors;
+        for (int i = 0; i < 8; ++i)
+            colors.push_back(ui.element("lblAdj", i).color());
+        return colors;
     }
 
-    QString text(const char* box) const { return ui.edit(box).text(); }
-
+    testing::FakeScreen* screen; // owned by the dialog
     frmColorRef dialog;
-    DialogControls ui;
+    testing::DialogControls ui;
 };
 
-TEST_F(ColorDialogTest, ControlsCarryTheirNamesTipsAndRanges) {
-    EXPECT_EQ(dialog.objectName(), "frmColorRef");
+TEST_F(ColorDialogTest, ShowsTheColourInEveryBoxSliderAndBackground) {
     EXPECT_EQ(dialog.windowTitle(), "Color Pick");
     EXPECT_TRUE(dialog.windowFlags().testFlag(Qt::WindowStaysOnTopHint));
-
-    const struct {
-        const char* letter;
-        int maximum;
-        const char* tip;
-    } boxes[] = {
-        {"R", 255, "Red value for above color"},
-        {"G", 255, "Green value for above color"},
-        {"B", 255, "Blue value for above color"},
-        {"H", 239, "Hue (Tint) value for above color"},
-        {"S", 240, "SAturation (Richness) value for above color"},
-        {"L", 240, "Luminence (Brightness) value for above color"},
-    };
-    for (const auto& box : boxes) {
-        const std::string letter = box.letter;
-        QLineEdit& edit = ui.edit(("txt" + letter).c_str());
-        EXPECT_EQ(edit.toolTip(), box.tip);
-        EXPECT_EQ(edit.font().family(), "Courier New");
-        EXPECT_EQ(ui.find<QLabel>(("lbl" + letter).c_str()).text(), box.letter);
-        EXPECT_EQ(ui.find<QLabel>(("lbl" + letter).c_str()).font().family(), "Courier New");
-        QScrollBar& slider = ui.slider(("v" + letter).c_str());
-        EXPECT_EQ(slider.orientation(), Qt::Vertical);
-        EXPECT_EQ(slider.minimum(), 0);
-        EXPECT_EQ(slider.maximum(), box.maximum);
-    }
-
-    EXPECT_EQ(ui.patch("picColor").toolTip(), "Current color");
-    EXPECT_EQ(ui.patch("Picture1").toolTip(), "pick a color");
-    EXPECT_EQ(ui.patch("Picture1").parentWidget()->objectName(), "pCol");
+    EXPECT_EQ(box('S').toolTip(), "SAturation (Richness) value for above color");
+    EXPECT_EQ(box('L').toolTip(), "Luminence (Brightness) value for above color");
     EXPECT_EQ(ui.find<QPushButton>("cmdPick").toolTip(), "Pick  from Screen");
-    EXPECT_EQ(ui.find<QPushButton>("cmd5by5").toolTip(),
-              "Take a 5x5 average sample from the screen");
     EXPECT_EQ(ui.find<QPushButton>("cmdChange").toolTip(), "Windoze color picker");
-    EXPECT_FALSE(ui.find<QPushButton>("cmdChange").icon().isNull());
-    EXPECT_EQ(ui.find<QPushButton>("OK").text(), "OK");
-    EXPECT_EQ(ui.find<QPushButton>("Cancel").text(), "Cancel");
 
-    EXPECT_EQ(dialog.findChildren<ColorPatch*>("lblAdj").size(), 8);
-    for (int i = 0; i < 8; ++i) {
-        EXPECT_EQ(ui.element("lblAdj", i).toolTip(), "Click to adjust brightness");
-        EXPECT_EQ(ui.element("lblAdj", i).font().family(), "Arial");
-    }
-    EXPECT_EQ(dialog.findChildren<ColorPatch*>("picPoint").size(), 25);
-    EXPECT_EQ(ui.element("picPoint", 24).parentWidget()->objectName(), "pic5x5");
-    EXPECT_TRUE(ui.find<QWidget>("pic5x5").isHidden());
-    EXPECT_FALSE(ui.timer("tmrPick").isActive());
-    EXPECT_EQ(ui.timer("tmrPick").interval(), 0);
-    EXPECT_EQ(ui.timer("tmr5by5").interval(), 0);
-}
-
-TEST_F(ColorDialogTest, ShowsTheColourInEveryBoxAndSlider) {
     open(rgb(255, 128, 0)); // orange: H 20, S 240, L 120
-    EXPECT_EQ(text("txtR"), "255");
-    EXPECT_EQ(text("txtG"), "128");
-    EXPECT_EQ(text("txtB"), "0");
-    EXPECT_EQ(text("txtH"), "20");
-    EXPECT_EQ(text("txtS"), "240");
-    EXPECT_EQ(text("txtL"), "120");
-    EXPECT_EQ(ui.slider("vR").value(), 0);
-    EXPECT_EQ(ui.slider("vG").value(), 127);
-    EXPECT_EQ(ui.slider("vB").value(), 255);
-    EXPECT_EQ(ui.slider("vH").value(), 219);
-    EXPECT_EQ(ui.slider("vS").value(), 0);
-    EXPECT_EQ(ui.slider("vL").value(), 120);
+    EXPECT_EQ(texts("RGBHSL"), "255,128,0,20,240,120");
+    const int maxima[] = {255, 255, 255, 239, 240, 240}, sliders[] = {0, 127, 255, 219, 0, 120};
+    for (int i = 0; i < 6; ++i) {
+        EXPECT_EQ(bar("RGBHSL"[i]).maximum(), maxima[i]) << "RGBHSL"[i];
+        EXPECT_EQ(bar("RGBHSL"[i]).value(), sliders[i]) << "RGBHSL"[i];
+    }
     // Each component box is backed by its pure component.
-    EXPECT_EQ(ui.edit("txtR").palette().color(QPalette::Base), QColor(255, 0, 0));
-    EXPECT_EQ(ui.edit("txtG").palette().color(QPalette::Base), QColor(0, 128, 0));
-    EXPECT_EQ(ui.edit("txtB").palette().color(QPalette::Base), QColor(0, 0, 0));
-    EXPECT_EQ(dialog.color(), rgb(255, 128, 0));
-}
+    EXPECT_EQ(colorOf(box('R'), QPalette::Base), QColor(255, 0, 0));
+    EXPECT_EQ(colorOf(box('G'), QPalette::Base), QColor(0, 128, 0));
+    EXPECT_EQ(colorOf(box('B'), QPalette::Base), QColor(0, 0, 0));
+    // Only the green box turns its text black, above 172.
+    type('G', "173");
+    EXPECT_EQ(colorOf(box('G')), Qt::black);
+    EXPECT_EQ(colorOf(box('R')), Qt::white);
+    type('G', "172");
+    EXPECT_EQ(colorOf(box('G')), Qt::white);
 
-TEST_F(ColorDialogTest, ComponentBoxesClampRewriteAndSelect) {
-    open(rgb(10, 20, 30));
-    type("txtR", "300");
-    EXPECT_EQ(text("txtR"), "255");
-    EXPECT_EQ(ui.edit("txtR").selectedText(), "255");
-    EXPECT_EQ(dialog.color(), rgb(255, 20, 30));
-    EXPECT_EQ(ui.slider("vR").value(), 0);
-
-    type("txtG", "abc");
-    EXPECT_EQ(text("txtG"), "0");
-    EXPECT_EQ(ui.edit("txtG").selectedText(), "0");
-    EXPECT_EQ(dialog.color(), rgb(255, 0, 30));
-
-    ui.edit("txtB").setText("007");
-    EXPECT_EQ(text("txtB"), "7");
-    EXPECT_EQ(dialog.color(), rgb(255, 0, 7));
-    EXPECT_EQ(ui.slider("vB").value(), 248);
-
-    // The HSL boxes follow a component edit.
-    const HSLColor hsl = modHSL::RGBToHSL(dialog.color());
-    EXPECT_EQ(text("txtH").toInt(), hsl.Hue);
-    EXPECT_EQ(text("txtL").toInt(), hsl.Luminance);
-}
-
-TEST_F(ColorDialogTest, HslBoxesClampAtTheirMaximum) {
-    open(rgb(10, 20, 30));
-    type("txtH", "240");
-    EXPECT_EQ(text("txtH"), "239");
-    EXPECT_EQ(ui.edit("txtH").selectedText(), "239");
-    EXPECT_EQ(ui.slider("vH").value(), 0);
-
-    type("txtS", "241");
-    EXPECT_EQ(text("txtS"), "240");
-    EXPECT_EQ(ui.edit("txtS").selectedText(), "240");
-
-    type("txtL", "240");
-    EXPECT_EQ(text("txtL"), "240");
+    bar('B').setValue(55);
+    EXPECT_EQ(box('B').text(), "200");
+    bar('L').setValue(0);
+    EXPECT_EQ(box('L').text(), "240");
     EXPECT_EQ(dialog.color(), 0xFFFFFF);
-
-    type("txtL", "x");
-    EXPECT_EQ(text("txtL"), "0");
-    EXPECT_EQ(ui.slider("vL").value(), 240);
 }
 
-TEST_F(ColorDialogTest, TypingAHueIsNotDisturbedByTheRoundTrip) {
+TEST_F(ColorDialogTest, TypedValuesAreClampedSelectedAndFollowed) {
+    const struct {
+        char box;
+        const char* typed;
+        const char* shown;
+        int slider;
+        ColorValue color; // -1: not checked
+    } rows[] = {{'R', "300", "255", 0, rgb(255, 20, 30)},
+                {'G', "abc", "0", 255, rgb(10, 0, 30)},
+                {'H', "240", "239", 0, -1},
+                {'S', "241", "240", 0, -1},
+                {'L', "240", "240", 0, 0xFFFFFF}};
+    for (const auto& row : rows) {
+        SCOPED_TRACE(std::string(1, row.box) + " " + row.typed);
+        open(rgb(10, 20, 30));
+        type(row.box, row.typed);
+        EXPECT_EQ(box(row.box).text(), row.shown);
+        EXPECT_EQ(box(row.box).selectedText(), row.shown); // the next key replaces it
+        EXPECT_EQ(bar(row.box).value(), row.slider);
+        if (row.color >= 0) {
+            EXPECT_EQ(dialog.color(), row.color);
+        }
+    }
+    // A pasted "007" is written back plainly, not selected; the hue box follows.
+    box('B').setText("007");
+    EXPECT_EQ(box('B').text(), "7");
+    EXPECT_EQ(box('B').selectedText(), "");
+    EXPECT_EQ(box('H').text().toInt(), modHSL::RGBToHSL(dialog.color()).Hue);
+
     // (90, 55, 37) shows as (14, 100, 60); (13, 100, 60) converts back to the
     // same colour, so a reloaded hue box would jump from 13 to 14.
     open(rgb(90, 55, 37));
-    EXPECT_EQ(text("txtH"), "14");
-    EXPECT_EQ(text("txtS"), "100");
-    EXPECT_EQ(text("txtL"), "60");
-
-    type("txtH", "13");
-    EXPECT_EQ(text("txtH"), "13");
-    EXPECT_EQ(ui.slider("vH").value(), 239 - 13);
+    type('H', "13");
+    EXPECT_EQ(texts("HSL"), "13,100,60");
+    EXPECT_EQ(bar('H').value(), 239 - 13);
     EXPECT_EQ(dialog.color(), rgb(90, 55, 37));
-    EXPECT_EQ(text("txtS"), "100");
-    EXPECT_EQ(text("txtR"), "90");
-
-    type("txtH", "0");
-    EXPECT_EQ(text("txtH"), "0");
-    EXPECT_NE(dialog.color(), rgb(90, 55, 37));
-    EXPECT_EQ(text("txtR").toInt(), RedOf(dialog.color()));
-    EXPECT_EQ(text("txtG").toInt(), GreenOf(dialog.color()));
-    EXPECT_EQ(text("txtB").toInt(), BlueOf(dialog.color()));
-
-    type("txtH", "13");
-    dialog.hide();
-    dialog.show();
-    EXPECT_EQ(text("txtH"), "14");
+    type('H', "0"); // (0, 100, 60): the other boxes follow
+    EXPECT_EQ(texts("RGBHS"), "90,38,37,0,100");
+    type('H', "13");
+    open(dialog.color());
+    EXPECT_EQ(box('H').text(), "14");
 }
 
-TEST_F(ColorDialogTest, SlidersWriteTheirBoxesInverted) {
-    open(0);
-    ui.slider("vB").setValue(55);
-    EXPECT_EQ(text("txtB"), "200");
-    EXPECT_EQ(dialog.color(), rgb(0, 0, 200));
-
-    ui.slider("vL").setValue(0);
-    EXPECT_EQ(text("txtL"), "240");
-    EXPECT_EQ(dialog.color(), 0xFFFFFF);
-
-    ui.slider("vR").setValue(255);
-    EXPECT_EQ(text("txtR"), "0");
-}
-
-TEST_F(ColorDialogTest, GreenBoxTextTurnsBlackAbove172) {
-    open(rgb(0, 172, 0));
-    EXPECT_EQ(ui.edit("txtG").palette().color(QPalette::Text), Qt::white);
-    type("txtG", "173");
-    EXPECT_EQ(ui.edit("txtG").palette().color(QPalette::Text), Qt::black);
-    EXPECT_EQ(ui.edit("txtR").palette().color(QPalette::Text), Qt::white);
-    type("txtG", "172");
-    EXPECT_EQ(ui.edit("txtG").palette().color(QPalette::Text), Qt::white);
-}
-
-TEST_F(ColorDialogTest, StripShowsDarkerAndLighterSteps) {
-    open(0);
-    for (int i = 0; i < 4; ++i) {
-        EXPECT_EQ(ui.element("lblAdj", i).color(), 0) << i;
-        EXPECT_EQ(ui.element("lblAdj", i).palette().color(QPalette::WindowText), Qt::white);
-    }
-    // Luminance 12, 24, 36, 48 of 240.
-    EXPECT_EQ(ui.element("lblAdj", 4).color(), rgb(13, 13, 13));
-    EXPECT_EQ(ui.element("lblAdj", 5).color(), rgb(26, 26, 26));
-    EXPECT_EQ(ui.element("lblAdj", 6).color(), rgb(38, 38, 38));
-    EXPECT_EQ(ui.element("lblAdj", 7).color(), rgb(51, 51, 51));
-
-    type("txtL", "240");
+TEST_F(ColorDialogTest, StripPaletteAndFocusSetTheColour) {
+    open(0); // darker half black; lighter half luminance 12, 24, 36, 48 of 240
+    EXPECT_EQ(strip(), (std::vector<ColorValue>{0, 0, 0, 0, rgb(13, 13, 13), rgb(26, 26, 26),
+                                                rgb(38, 38, 38), rgb(51, 51, 51)}));
+    EXPECT_EQ(colorOf(ui.element("lblAdj", 0), QPalette::WindowText), Qt::white);
+    type('L', "240");
     for (int i = 4; i < 8; ++i) {
         EXPECT_EQ(ui.element("lblAdj", i).color(), 0xFFFFFF) << i;
-        EXPECT_EQ(ui.element("lblAdj", i).palette().color(QPalette::WindowText), Qt::black);
+        EXPECT_EQ(colorOf(ui.element("lblAdj", i), QPalette::WindowText), Qt::black) << i;
     }
-    EXPECT_EQ(ui.element("lblAdj", 3).color(), modHSL::DarkenColor(0xFFFFFF, 0.05f));
-}
+    open(rgb(128, 128, 128)); // L 121; clicking the steps walks it
+    for (const auto& [step, lum] : {std::pair{4, "133"}, {4, "145"}, {0, "97"}}) {
+        click(ui.element("lblAdj", step));
+        EXPECT_EQ(box('L').text(), lum);
+    }
 
-TEST_F(ColorDialogTest, ClickingStepsWalksTheColour) {
-    open(rgb(128, 128, 128)); // L 121
-    ColorPatch& lighter = ui.element("lblAdj", 4);
-    QTest::mouseClick(&lighter, Qt::LeftButton);
-    EXPECT_EQ(modHSL::RGBToHSL(dialog.color()).Luminance, 133);
-    QTest::mouseClick(&lighter, Qt::LeftButton);
-    EXPECT_EQ(modHSL::RGBToHSL(dialog.color()).Luminance, 145);
-    QTest::mouseClick(&ui.element("lblAdj", 0), Qt::LeftButton);
-    EXPECT_EQ(modHSL::RGBToHSL(dialog.color()).Luminance, 97);
-    EXPECT_EQ(text("txtL"), "97");
-}
-
-TEST_F(ColorDialogTest, PaletteClickTakesThePaletteColour) {
-    open(rgb(1, 2, 3));
     ColorPatch& palette = ui.patch("Picture1");
     const QSize size = palette.pixmap().size();
-    QTest::mouseClick(&palette, Qt::LeftButton, {}, QPoint(30, 0));
+    click(palette, {30, 0});
     EXPECT_EQ(dialog.color(), 0xFFFFFF);
-    QTest::mouseClick(&palette, Qt::LeftButton, {}, QPoint(0, size.height() / 2));
-    EXPECT_EQ(text("txtH"), "0");
-    EXPECT_EQ(text("txtS"), "240");
-    EXPECT_EQ(text("txtL"), "120");
+    click(palette, {0, size.height() / 2});
+    EXPECT_EQ(texts("HSL"), "0,240,120");
     const QPoint grey(size.width() - 1, size.height() / 2);
-    QTest::mouseClick(&palette, Qt::LeftButton, {}, grey);
-    EXPECT_EQ(text("txtS"), "0");
+    click(palette, grey);
+    EXPECT_EQ(box('S').text(), "0");
     EXPECT_EQ(dialog.color(), paletteColorAt(grey.x(), grey.y(), size.width(), size.height()));
-}
 
-TEST_F(ColorDialogTest, FocusSelectsTheWholeText) {
-    open(rgb(123, 45, 6));
     QApplication::setActiveWindow(&dialog);
-    ui.edit("txtB").setFocus();
-    ui.edit("txtR").setFocus();
+    box('B').setFocus();
+    box('R').setFocus();
     QTest::qWait(20);
-    EXPECT_EQ(ui.edit("txtR").selectedText(), "123");
+    EXPECT_EQ(box('R').selectedText(), box('R').text());
 }
 
-TEST_F(ColorDialogTest, CancelClosesWithoutATarget) {
-    open(rgb(9, 9, 9));
-    QTest::mouseClick(&ui.find<QPushButton>("Cancel"), Qt::LeftButton);
-    EXPECT_FALSE(dialog.isVisible());
-    EXPECT_EQ(dialog.result(), QDialog::Rejected);
-}
-
-TEST_F(ColorDialogTest, AboutGoesThroughTheMessageService) {
+TEST_F(ColorDialogTest, AboutIsAnInformationMessage) {
     testing::ServiceRecorder recorder;
     open(0);
-    QTest::mouseClick(&ui.find<QToolButton>("cmdAbout"), Qt::LeftButton);
+    click(ui.find<QToolButton>("cmdAbout"));
     ASSERT_EQ(recorder.messages().size(), 1u);
     EXPECT_EQ(recorder.messages()[0].title, "About");
     EXPECT_EQ(recorder.messages()[0].icon, MessageIcon::Information);
-    EXPECT_FALSE(recorder.messages()[0].text.empty());
+}
+
+TEST_F(ColorDialogTest, PickAndFiveByFiveRunUntilAPressOnTheSwatch) {
+    open(rgb(1, 2, 3));
+    screen->paint([](ScreenPoint p) { return rgb(10 * p.x, 10 * p.y, 100); });
+    const auto waitFor = [&](ColorValue expected) {
+        return QTest::qWaitFor([&] { return dialog.color() == expected; }, 3000);
+    };
+    const auto pressSwatch = [&] { QTest::mousePress(&ui.patch("picColor"), Qt::LeftButton); };
+    click("cmdPick");
+    EXPECT_EQ(ui.timer("tmrPick").interval(), 50);
+    screen->movePointer(4, 3);
+    ASSERT_TRUE(waitFor(rgb(40, 30, 100)));
+    EXPECT_EQ(box('R').text(), "40");
+    pressSwatch();
+    EXPECT_FALSE(ui.timer("tmrPick").isActive());
+    EXPECT_EQ(ui.timer("tmrPick").interval(), 0);
+    EXPECT_EQ(dialog.color(), rgb(40, 30, 100)); // the last pick stays
+
+    const auto stripBefore = strip();
+    click("cmd5by5");
+    EXPECT_EQ(ui.timer("tmr5by5").interval(), 100);
+    EXPECT_FALSE(ui.find<QWidget>("pic5x5").isHidden());
+    screen->movePointer(10, 12); // rows 10..14, columns 8..12
+    ASSERT_TRUE(waitFor(rgb(100, 120, 100)));
+    EXPECT_EQ(ui.element("picPoint", 4).color(), rgb(120, 100, 100)); // top right
+    EXPECT_EQ(ui.element("picPoint", 20).color(), rgb(80, 140, 100)); // bottom left
+    EXPECT_EQ(strip(), stripBefore); // kept while the enlargement is shown
+    pressSwatch();
+    EXPECT_TRUE(ui.find<QWidget>("pic5x5").isHidden());
+    EXPECT_EQ(ui.timer("tmr5by5").interval(), 0);
+    EXPECT_NE(strip(), stripBefore);
+    EXPECT_EQ(dialog.color(), rgb(100, 120, 100));
+
+    click("cmdPick");
+    click("cmd5by5"); // possible from the keyboard; closing ends both modes
+    EXPECT_TRUE(ui.timer("tmrPick").isActive() && ui.timer("tmr5by5").isActive());
+    dialog.reject();
+    EXPECT_FALSE(ui.timer("tmrPick").isActive() || ui.timer("tmr5by5").isActive());
+    EXPECT_TRUE(ui.find<QWidget>("pic5x5").isHidden());
 }
 
 } // namespace

@@ -4,16 +4,11 @@
 #include "color/color_ref_dialog.h"
 #include "support/modal_window.h"
 
-#include <QApplication>
-#include <QElapsedTimer>
 #include <QLineEdit>
 #include <QScrollBar>
-#include <QTimer>
 
-#include <gtest/gtest.h>
-
-#include <functional>
-#include <memory>
+#include <stdexcept>
+#include <string>
 
 namespace huebase::testing {
 

@@ -8,8 +8,7 @@
 namespace huebase::testing {
 
 // A screen whose pointer, size and pixels a test sets, recording every point
-// that was read. Pixels are a function of the point so that every cell of a
-// sample can be told apart.
+// read. By default pixel (x, y) is (10 + x, 20 + y, 30), so cells differ.
 class FakeScreen : public ScreenPixels {
 public:
     FakeScreen(int width, int height) : geometry_{0, 0, width, height} {}
@@ -17,6 +16,7 @@ public:
     void movePointer(int x, int y) { pointer_ = {x, y}; }
     void resize(int width, int height) { geometry_ = {0, 0, width, height}; }
     void paint(std::function<ColorValue(ScreenPoint)> pixels) { pixels_ = std::move(pixels); }
+    std::vector<ScreenPoint>& reads() const { return reads_; }
 
     ScreenPoint pointerPosition() const override { return pointer_; }
     ScreenRect screenGeometry() const override { return geometry_; }
@@ -24,8 +24,6 @@ public:
         reads_.push_back(p);
         return pixels_(p);
     }
-
-    std::vector<ScreenPoint>& reads() const { return reads_; }
 
 private:
     ScreenPoint pointer_;
