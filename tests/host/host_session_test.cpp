@@ -1,16 +1,18 @@
+#include "host/export_format.h"
 #include "host/host_session.h"
+#include "host/value_index.h"
 #include "util/misc_files.h"
 
+#include "support/numeric_locale.h"
 #include "support/scratch_folder.h"
 #include "support/service_recorder.h"
 
 #include <gtest/gtest.h>
 
+#include <filesystem>
 #include <fstream>
-#include <map>
+#include <random>
 #include <sstream>
-#include <string>
-#include <vector>
 
 #ifndef _WIN32
 #include <csignal>
@@ -20,340 +22,251 @@
 namespace huebase {
 namespace {
 
+constexpr ColorValue kRed = 0x0000FF, kGreen = 0x00FF00, kBlue = 0xFF0000;
+using Texts = std::vector<std::string>;
+
 class RecordingNotifier : public HostNotifier {
 public:
     bool tell(const std::string& status) override {
         statuses.push_back(status);
         return reachable;
     }
-    std::string unreachableMessage() const override { return "the host is gone"; }
-
+    std::string unreachableMessage() const override { return "gone"; }
+    Texts statuses;
     bool reachable = true;
-    std::vector<std::string> statuses;
 };
 
-constexpr ColorValue kRed = 0x0000FF;
-constexpr ColorValue kGreen = 0x00FF00;
-constexpr ColorValue kBlue = 0xFF0000;
-
-std::string joinLines(const std::vector<std::string>& lines) {
-    std::string text;
-    for (const std::string& line : lines)
-        (text += line) += MiscFiles::kLineEnd;
-    return text;
-}
-
-class HostSessionTest : public ::testing::Test {
-protected:
-    HostSessionTest() : session_(folderPath(), notifier_) {}
-
-    std::string folderPath() const {
-        const std::u8string utf8 = folder_.path().u8string();
-        return std::string(utf8.begin(), utf8.end());
+// A session on a scratch folder holding the exchange files given.
+struct Session {
+    explicit Session(const std::optional<std::string>& col,
+                     const std::optional<std::string>& lut = std::nullopt) {
+        if (col)
+            folder.write("col.tmp", *col);
+        if (lut)
+            folder.write("lut.tmp", *lut);
     }
-    void writeCol(const std::string& text) { folder_.write("col.tmp", text); }
-    void writeLut(const std::string& text) { folder_.write("lut.tmp", text); }
-    std::string lutText() const {
-        std::ifstream in(folder_.path() / "lut.tmp", std::ios::binary);
+    std::optional<std::string> lut() const {
+        if (!std::filesystem::exists(folder.path() / "lut.tmp"))
+            return std::nullopt;
         std::ostringstream text;
-        text << in.rdbuf();
+        text << std::ifstream(folder.path() / "lut.tmp", std::ios::binary).rdbuf();
         return text.str();
     }
-    bool lutExists() const { return std::filesystem::exists(folder_.path() / "lut.tmp"); }
-
-    // Starts the session and answers with colours by value (black for others).
-    void startAndAnswer(const std::map<float, ColorValue>& colors) {
-        ASSERT_TRUE(session_.start().has_value());
-        session_.answerDefined([&colors](float value) {
-            const auto found = colors.find(value);
-            return found == colors.end() ? 0 : found->second;
-        });
-    }
-
-    std::vector<std::string> messageTexts() const {
-        std::vector<std::string> texts;
-        for (const MessageRequest& request : services_.messages())
-            texts.push_back(request.text);
+    // Each message shown: its text, then any title, a critical icon and other buttons.
+    Texts messages() const {
+        Texts texts;
+        for (const MessageRequest& m : services.messages())
+            texts.push_back(m.text + (m.title.empty() ? "" : " /" + m.title) +
+                            (m.icon == MessageIcon::Critical ? " !" : "") +
+                            (m.buttons == MessageButtons::Ok ? "" : " +buttons"));
         return texts;
     }
 
-    testing::ScratchFolder folder_;
-    testing::ServiceRecorder services_;
-    RecordingNotifier notifier_;
-    HostSession session_;
+    testing::ScratchFolder folder;
+    testing::ServiceRecorder services;
+    RecordingNotifier notifier;
+    HostSession session{folder.file(""), notifier};
 };
 
-// --- Start ----------------------------------------------------------------
-
-using HostSessionStart = HostSessionTest;
-
-TEST_F(HostSessionStart, WithoutColTmpTheProgramEndsSilentlyWithCodeZero) {
-    EXPECT_FALSE(session_.start().has_value());
-    EXPECT_EQ(services_.exitCodes(), std::vector<int>{0});
-    EXPECT_TRUE(services_.messages().empty());
-    EXPECT_TRUE(notifier_.statuses.empty());
-}
-
-TEST_F(HostSessionStart, HandsOverTheDistributionSizedToTheLineCount) {
-    writeCol("-20.5,3\r\n0,12\r\n1500,1\r\n");
-    const auto table = session_.start();
-    ASSERT_TRUE(table.has_value());
-    EXPECT_EQ(table->data(), (std::vector<ValuesTable::Row>{{-20.5, 3}, {0, 12}, {1500, 1}}));
-    EXPECT_FALSE(services_.ended());
-}
-
-TEST_F(HostSessionStart, EmptyColTmpGivesAnEmptyTable) {
-    writeCol("");
-    const auto table = session_.start();
-    ASSERT_TRUE(table.has_value());
-    EXPECT_TRUE(table->empty());
-    EXPECT_FALSE(services_.ended());
-}
-
-TEST_F(HostSessionStart, MoreThan32767LinesIsOverflowAndTheHostIsNotTold) {
+// Each field tagged by its kind: 7|"key";_|2.5;
+std::string render(const ValuesTable& table) {
     std::string text;
-    for (int i = 0; i < 32768; ++i)
-        text += "1,1\n";
-    writeCol(text);
-    EXPECT_FALSE(session_.start().has_value());
-    EXPECT_EQ(messageTexts(), std::vector<std::string>{"Error: 6. Overflow"});
-    EXPECT_EQ(services_.exitCodes(), std::vector<int>{HostSession::kStartFailedExitCode});
-    EXPECT_TRUE(notifier_.statuses.empty());
+    for (const ValuesTable::Row& row : table.data())
+        for (std::size_t column = 0; column < 2; ++column) {
+            const Variant& field = row[column];
+            text += field.isEmpty()  ? "_"
+                    : field.isText() ? '"' + field.toText() + '"'
+                                     : field.toText();
+            text += column == 0 ? '|' : ';';
+        }
+    return text;
 }
 
-TEST_F(HostSessionStart, RecordsThatDoNotFitTheLinesAreReportedNotKept) {
-    writeCol("1,2\n3\n");
-    EXPECT_FALSE(session_.start().has_value());
-    writeCol("1,2,3\n");
-    EXPECT_FALSE(session_.start().has_value());
-    EXPECT_EQ(messageTexts(), (std::vector<std::string>{"Error: 62. Input past end of file",
-                                                        "Error: 9. Subscript out of range"}));
-    EXPECT_EQ(services_.exitCodes(), (std::vector<int>{HostSession::kStartFailedExitCode,
-                                                       HostSession::kStartFailedExitCode}));
-    EXPECT_TRUE(notifier_.statuses.empty());
-}
-
-// --- The answer to a defined table -------------------------------------------
-
-using HostSessionAnswer = HostSessionTest;
-
-TEST_F(HostSessionAnswer, WritesOneLinePerExportRowInRowOrderAndReportsSuccess) {
-    writeCol("10,4\n20,5\n30,6\n");
-    writeLut("30,7\n10,8\n30,9\n99,10\n20,11\n");
-    startAndAnswer({{10.0f, kRed}, {20.0f, kGreen}, {30.0f, kBlue}});
-
-    EXPECT_EQ(lutText(), joinLines({"7.00,255.00", "8.00,16711680.00", "9.00,255.00", "10.00,0.00",
-                                    "11.00,65280.00"}));
-    EXPECT_EQ(notifier_.statuses, std::vector<std::string>{"0G"});
-    EXPECT_TRUE(services_.messages().empty());
-    EXPECT_EQ(services_.exitCodes(), std::vector<int>{0});
-}
-
-TEST_F(HostSessionAnswer, LookupSeesSinglePrecisionValues) {
-    writeCol("0.1,1\n\"2.5\",1\n");
-    writeLut("");
-    ASSERT_TRUE(session_.start().has_value());
-    std::vector<float> asked;
-    session_.answerDefined([&asked](float value) {
-        asked.push_back(value);
-        return 0;
-    });
-    EXPECT_EQ(asked, (std::vector<float>{0.1f, 2.5f}));
-}
-
-TEST_F(HostSessionAnswer, LaterEqualInputRowGivesTheColour) {
-    writeCol("5,1\n5,2\n6,1\n");
-    writeLut("5,1\n");
-    ASSERT_TRUE(session_.start().has_value());
-    // A different colour per call tells the rows apart.
-    const std::vector<ColorValue> byCall{kRed, kBlue, kGreen};
-    std::size_t call = 0;
-    session_.answerDefined([&](float) { return byCall.at(call++); });
-    EXPECT_EQ(lutText(), joinLines({"1.00,255.00"}));
-}
-
-TEST_F(HostSessionAnswer, QuotedValueNeverMatchesANumber) {
-    writeCol("\"5\",1\n");
-    writeLut("5,1\n\"5\",2\n");
-    startAndAnswer({{5.0f, kRed}});
-    EXPECT_EQ(lutText(), joinLines({"1.00,0.00", "2.00,16711680.00"}));
-}
-
-TEST_F(HostSessionAnswer, MissingLutTmpEndsSilentlyWithoutTellingTheHost) {
-    writeCol("1,1\n");
-    startAndAnswer({{1.0f, kRed}});
-    EXPECT_FALSE(lutExists());
-    EXPECT_TRUE(notifier_.statuses.empty());
-    EXPECT_TRUE(services_.messages().empty());
-    EXPECT_EQ(services_.exitCodes(), std::vector<int>{0});
-}
-
-TEST_F(HostSessionAnswer, UnreadableExportTableIsReportedAndLeftAlone) {
-    writeCol("1,1\n");
-    writeLut("1,2\n3\n");
-    startAndAnswer({{1.0f, kRed}});
-    ASSERT_EQ(services_.messages().size(), 1u);
-    const MessageRequest& message = services_.messages().front();
-    EXPECT_EQ(message.text, "Can't find export values table");
-    EXPECT_EQ(message.title, "");
-    EXPECT_EQ(message.buttons, MessageButtons::Ok);
-    EXPECT_EQ(lutText(), "1,2\n3\n");
-    EXPECT_EQ(notifier_.statuses, std::vector<std::string>{"-1G"});
-    EXPECT_EQ(services_.exitCodes(), std::vector<int>{0});
-}
-
-TEST_F(HostSessionAnswer, RunTimeErrorsAreShownAndReportedAsFailure) {
-    struct Case {
-        std::string col;
-        std::string lut;
-        ColorValue color;
-        std::string message;
-    };
-    const std::vector<Case> cases{
-        {"abc,1\n", "1,1\n", kRed, "Error: 13. Type mismatch"},
-        {"1e39,1\n", "1,1\n", kRed, "Error: 6. Overflow"},
-        {"1,1\n", "1,1\n", 0x01000000, "Error: 6. Overflow"},
-        {"1,1\n", std::string(40000, '\n'), kRed, "Error: 6. Overflow"},
-    };
-    for (const Case& c : cases) {
-        testing::ServiceRecorder services;
-        RecordingNotifier notifier;
-        HostSession session(folderPath(), notifier);
-        writeCol(c.col);
-        writeLut(c.lut);
-        ASSERT_TRUE(session.start().has_value()) << c.col;
-        session.answerDefined([&c](float) { return c.color; });
-        ASSERT_EQ(services.messages().size(), 1u) << c.message;
-        EXPECT_EQ(services.messages()[0].text, c.message);
-        EXPECT_EQ(notifier.statuses, std::vector<std::string>{"-1G"}) << c.message;
-        EXPECT_EQ(services.exitCodes(), std::vector<int>{0}) << c.message;
-    }
-}
-
-TEST_F(HostSessionAnswer, ErrorFromTheLookupIsShownAndReportedAsFailure) {
-    writeCol("1,1\n");
-    writeLut("1,1\n");
-    ASSERT_TRUE(session_.start().has_value());
-    session_.answerDefined([](float) -> ColorValue { throw VbError(VbError::DivisionByZero); });
-    EXPECT_EQ(messageTexts(), std::vector<std::string>{"Error: 11. Division by zero"});
-    EXPECT_EQ(notifier_.statuses, std::vector<std::string>{"-1G"});
-    EXPECT_EQ(lutText(), "1,1\n");
-}
-
-#ifndef _WIN32
-// Lowers the largest file this process may write, so that writes fail for
-// real (EFBIG) even with full permissions.
-class FileSizeLimit {
-public:
-    explicit FileSizeLimit(rlim_t bytes) {
-        getrlimit(RLIMIT_FSIZE, &previous_);
-        previousHandler_ = std::signal(SIGXFSZ, SIG_IGN);
-        rlimit limit = previous_;
-        limit.rlim_cur = bytes;
-        setrlimit(RLIMIT_FSIZE, &limit);
-    }
-    ~FileSizeLimit() {
-        setrlimit(RLIMIT_FSIZE, &previous_);
-        std::signal(SIGXFSZ, previousHandler_);
-    }
-    FileSizeLimit(const FileSizeLimit&) = delete;
-    FileSizeLimit& operator=(const FileSizeLimit&) = delete;
-
-private:
-    rlimit previous_{};
-    void (*previousHandler_)(int) = nullptr;
-};
-
-TEST_F(HostSessionAnswer, FailedAppendIsReportedAsFailureWithoutAMessage) {
-    writeCol("1,1\n");
-    writeLut("1,100\n1,200\n1,300\n");
-    ASSERT_TRUE(session_.start().has_value());
-    {
-        FileSizeLimit limit(16);
-        session_.answerDefined([](float) { return kRed; });
-    }
-    EXPECT_EQ(notifier_.statuses, std::vector<std::string>{"-1G"});
-    EXPECT_TRUE(services_.messages().empty());
-    EXPECT_EQ(services_.exitCodes(), std::vector<int>{0});
-}
-#endif
-
-TEST_F(HostSessionAnswer, UnreachableHostIsToldToTheUser) {
-    writeCol("1,1\n");
-    writeLut("1,1\n");
-    notifier_.reachable = false;
-    startAndAnswer({{1.0f, kRed}});
-    EXPECT_EQ(notifier_.statuses, std::vector<std::string>{"0G"});
-    ASSERT_EQ(services_.messages().size(), 1u);
-    const MessageRequest& message = services_.messages().front();
-    EXPECT_EQ(message.text, "the host is gone");
-    EXPECT_EQ(message.title, "Problem");
-    EXPECT_EQ(message.icon, MessageIcon::Critical);
-    EXPECT_EQ(services_.exitCodes(), std::vector<int>{0});
-}
-
-// --- Operations of the session ---------------------------------------------
-
-using HostSessionOperations = HostSessionTest;
-
-TEST_F(HostSessionOperations, FindColorConvertsTheLastMatchToAnInteger) {
-    writeCol("1,2.5\n1,3.5\n2,\"7\"\n3,x\n");
-    session_.sizeInputArray(4);
-    ASSERT_TRUE(session_.GetOrderedFile(session_.colPath()));
-    EXPECT_EQ(session_.FindColorInInputArrayFromValue(1), 4);
-    EXPECT_EQ(session_.FindColorInInputArrayFromValue(2), 7);
-    EXPECT_EQ(session_.FindColorInInputArrayFromValue(4), 0);
+template <typename Action> int errorOf(Action action) {
     try {
-        session_.FindColorInInputArrayFromValue(3);
-        FAIL() << "no error";
-    } catch (const VbError& e) {
-        EXPECT_EQ(e.number(), VbError::TypeMismatch);
-    }
-}
-
-TEST_F(HostSessionOperations, FindColorFollowsARefilledTable) {
-    writeCol("1,10\n");
-    session_.sizeInputArray(1);
-    ASSERT_TRUE(session_.GetOrderedFile(session_.colPath()));
-    EXPECT_EQ(session_.FindColorInInputArrayFromValue(1), 10);
-    writeCol("2,20\n");
-    ASSERT_TRUE(session_.GetOrderedFile(session_.colPath()));
-    EXPECT_EQ(session_.FindColorInInputArrayFromValue(1), 0);
-    EXPECT_EQ(session_.FindColorInInputArrayFromValue(2), 20);
-}
-
-TEST_F(HostSessionOperations, ReadersAnswerFalseAndKeepTheError) {
-    session_.sizeInputArray(1);
-    EXPECT_FALSE(session_.GetOutPutFile(session_.lutPath()));
-    ASSERT_TRUE(session_.lastReadError().has_value());
-    EXPECT_EQ(session_.lastReadError()->number(), VbError::FileNotFound);
-    writeCol("1,1\n");
-    EXPECT_TRUE(session_.GetOrderedFile(session_.colPath()));
-    EXPECT_FALSE(session_.lastReadError().has_value());
-}
-
-int scalePercentError(double value, double total) {
-    try {
-        HostSession::ScalePercent(value, total);
-    } catch (const VbError& e) {
-        return e.number();
+        action();
+    } catch (const VbError& error) {
+        return error.number();
     }
     return 0;
 }
 
-TEST(HostSessionScalePercent, FloorsThePercentage) {
-    EXPECT_EQ(HostSession::ScalePercent(1, 3), 33);
-    EXPECT_EQ(HostSession::ScalePercent(-1, 3), -34);
-    EXPECT_EQ(HostSession::ScalePercent(2, 3), 66);
-    EXPECT_EQ(HostSession::ScalePercent(50, 200), 25);
-    EXPECT_EQ(HostSession::ScalePercent(3, -2), -150);
+TEST(HostSessionStart, ReadsColTmpOneRowPerLineOrEndsTheProgram) {
+    std::string tooLong;
+    for (int i = 0; i < 32768; ++i)
+        tooLong += "1,1\n";
+    const int kFailed = HostSession::kStartFailedExitCode;
+    const struct {
+        std::optional<std::string> col;
+        std::string rows;
+        Texts messages;
+        std::vector<int> exits;
+    } cases[] = {
+        {std::nullopt, "", {}, {0}},
+        {"", "", {}, {}},
+        {"-12.5,3\r\n0,17\n1250.25,1", "-12.5|3;0|17;1250.25|1;", {}, {}},
+        {"-12.5,3\r0,17\r", "-12.5|3;0|17;", {}, {}},
+        {"  7 ,\t\"key, one\"  \n\"8\", 2.50 \n \"text\" , \"\"\n9,\n",
+         "7|\"key, one\";\"8\"|2.5;\"text\"|\"\";9|_;",
+         {},
+         {}},
+        {"1,2\n3,4\n\n\n", "1|2;3|4;_|_;_|_;", {}, {}},
+        // Records are not lines: each row takes the next two fields.
+        {"1,2,3\n4\n", "1|2;3|4;", {}, {}},
+        {"1,10\n2\n", "1|10;2|_;", {"Error: 62. Input past end of file"}, {kFailed}},
+        {"1\n2,20\n", "1|2;20|_;", {"Error: 62. Input past end of file"}, {kFailed}},
+        {"1,10,100\n2,20\n", "1|10;100|2;", {"Error: 9. Subscript out of range"}, {kFailed}},
+        {"1,10,\n", "1|10;", {"Error: 9. Subscript out of range"}, {kFailed}},
+        {tooLong, "", {"Error: 6. Overflow"}, {kFailed}},
+    };
+    for (const auto& c : cases) {
+        SCOPED_TRACE(c.col ? c.col->substr(0, 40) : "no col.tmp");
+        Session s(c.col);
+        const std::optional<ValuesTable> table = s.session.start();
+        EXPECT_EQ(table ? render(*table) : "ended", c.exits.empty() ? c.rows : "ended");
+        EXPECT_EQ(render(s.session.InputArray()), c.rows);
+        EXPECT_EQ(s.messages(), c.messages);
+        EXPECT_EQ(s.services.exitCodes(), c.exits);
+        EXPECT_TRUE(s.notifier.statuses.empty());
+    }
 }
 
-TEST(HostSessionScalePercent, ZeroTotalsAndLargeResultsAreErrors) {
-    EXPECT_EQ(scalePercentError(1, 0), VbError::DivisionByZero);
-    EXPECT_EQ(scalePercentError(0, 0), VbError::Overflow);
-    EXPECT_EQ(scalePercentError(32767, 100), 0);
-    EXPECT_EQ(scalePercentError(32768, 100), VbError::Overflow);
+TEST(HostSessionAnswer, RewritesLutTmpInRowOrderWithTheLastEqualValuesHostColour) {
+    Session s("0.1,1\n10,4\n20,5\n10,6\n\"30\",1\n",
+              "30,7\n10,8\n99,-3.456\n10,8\n20,\" 42\"\n\"30\",\"road\"\n0.1,\n");
+    ASSERT_TRUE(s.session.start());
+    // A colour per call tells equal values on different rows apart.
+    const std::vector<ColorValue> byCall{kGreen, kGreen, kBlue, kRed, kGreen};
+    std::vector<float> asked;
+    s.session.answerDefined([&](float value) {
+        asked.push_back(value);
+        return byCall.at(asked.size() - 1);
+    });
+    EXPECT_EQ(asked, (std::vector<float>{0.1f, 10, 20, 10, 30}));
+    std::string expected;
+    for (const char* line : {"7.00,0.00", "8.00,16711680.00", "-3.46,0.00", "8.00,16711680.00",
+                             "42.00,255.00", "road,65280.00", ",65280.00"})
+        (expected += line) += MiscFiles::kLineEnd;
+    EXPECT_EQ(s.lut(), expected);
+    EXPECT_EQ(s.notifier.statuses, Texts{"0G"});
+    EXPECT_TRUE(s.services.messages().empty());
+    EXPECT_EQ(s.services.exitCodes(), std::vector<int>{0});
+}
+
+TEST(HostSessionAnswer, FailuresAreShownAndToldAsMinusOneLeavingLutTmp) {
+    const HostSession::ColorLookup red = [](float) { return kRed; };
+    const HostSession::ColorLookup tooBright = [](float) { return 0x01000000; };
+    const HostSession::ColorLookup throwing = [](float) -> ColorValue {
+        throw VbError(VbError::DivisionByZero);
+    };
+    const struct {
+        std::string col;
+        std::optional<std::string> lut;
+        HostSession::ColorLookup lookup;
+        Texts messages;
+        Texts statuses;
+        bool reachable = true;
+    } cases[] = {
+        {"1,1\n", std::nullopt, red, {}, {}},
+        {"1,1\n", "1,2\n3\n", red, {"Can't find export values table"}, {"-1G"}},
+        {"abc,1\n", "1,1\n", red, {"Error: 13. Type mismatch"}, {"-1G"}},
+        {"1e39,1\n", "1,1\n", red, {"Error: 6. Overflow"}, {"-1G"}},
+        {"1,1\n", "1,1\n", tooBright, {"Error: 6. Overflow"}, {"-1G"}},
+        {"1,1\n", std::string(40000, '\n'), red, {"Error: 6. Overflow"}, {"-1G"}},
+        {"1,1\n", "1,1\n", throwing, {"Error: 11. Division by zero"}, {"-1G"}},
+        {"1,1\n", "1,1\n", tooBright, {"Error: 6. Overflow", "gone /Problem !"}, {"-1G"}, false},
+    };
+    int row = 0;
+    for (const auto& c : cases) {
+        SCOPED_TRACE("row " + std::to_string(++row));
+        Session s(c.col, c.lut);
+        s.notifier.reachable = c.reachable;
+        ASSERT_TRUE(s.session.start());
+        s.session.answerDefined(c.lookup);
+        EXPECT_EQ(s.lut(), c.lut);
+        EXPECT_EQ(s.notifier.statuses, c.statuses);
+        EXPECT_EQ(s.services.exitCodes(), std::vector<int>{0});
+        EXPECT_EQ(s.messages(), c.messages);
+    }
+}
+
+#ifndef _WIN32
+TEST(HostSessionAnswer, AFailedAppendIsToldAsMinusOneWithoutAMessage) {
+    Session s("1,1\n", "1,100\n1,200\n1,300\n");
+    ASSERT_TRUE(s.session.start());
+    // Writes beyond 16 bytes fail for real (EFBIG), whatever the permissions.
+    rlimit previous{};
+    getrlimit(RLIMIT_FSIZE, &previous);
+    rlimit limit = previous;
+    limit.rlim_cur = 16;
+    const auto handler = std::signal(SIGXFSZ, SIG_IGN);
+    setrlimit(RLIMIT_FSIZE, &limit);
+    s.session.answerDefined([](float) { return kRed; });
+    setrlimit(RLIMIT_FSIZE, &previous);
+    std::signal(SIGXFSZ, handler);
+    EXPECT_EQ(s.notifier.statuses, Texts{"-1G"});
+    EXPECT_TRUE(s.services.messages().empty());
+    EXPECT_EQ(s.services.exitCodes(), std::vector<int>{0});
+}
+#endif
+
+TEST(HostSessionFindColor, TakesTheLastMatchOfTheCurrentFillingAsAnInteger) {
+    Session s("1,2.5\n1,3.5\n2,\"7\"\n3,x\n");
+    HostSession& session = s.session;
+    session.sizeInputArray(4);
+    ASSERT_TRUE(session.GetOrderedFile(session.colPath()));
+    EXPECT_EQ(session.FindColorInInputArrayFromValue(1), 4); // 3.5 to even
+    EXPECT_EQ(session.FindColorInInputArrayFromValue(2), 7);
+    EXPECT_EQ(session.FindColorInInputArrayFromValue(4), 0);
+    EXPECT_EQ(errorOf([&] { session.FindColorInInputArrayFromValue(3); }), VbError::TypeMismatch);
+    s.folder.write("col.tmp", "5,50\n6,60\n7,70\n8,80\n");
+    ASSERT_TRUE(session.GetOrderedFile(session.colPath()));
+    EXPECT_EQ(session.FindColorInInputArrayFromValue(1), 0);
+    EXPECT_EQ(session.FindColorInInputArrayFromValue(8), 80);
+}
+
+TEST(ValueIndex, AgreesWithARowByRowScanOnRandomMixedTables) {
+    const Variant fields[] = {Variant(), "", "a", "0", "1", -0.0, 0, 0.5, 1, 1.5, 2};
+    std::mt19937 random(20240611);
+    const auto pick = [&] { return fields[random() % std::size(fields)]; };
+    for (int round = 0; round < 200; ++round) {
+        ValuesTable table(static_cast<int>(random() % 25));
+        for (int row = 1; row <= table.rows(); ++row)
+            table.at(row, 1) = pick();
+        const ValueIndex index(table);
+        for (const Variant& value : fields) {
+            int expected = 0;
+            for (int row = 1; row <= table.rows(); ++row)
+                expected = table.at(row, 1) == value ? row : expected;
+            ASSERT_EQ(index.lastEqualRow(value), expected)
+                << "round " << round << " value " << value.toText();
+        }
+    }
+}
+
+TEST(HostSessionScalePercent, FloorsThePercentageOrFails) {
+    const auto scaled = [](double value, double total) {
+        std::string result;
+        const int error =
+            errorOf([&] { result = std::to_string(HostSession::ScalePercent(value, total)); });
+        return error == 0 ? result : "error " + std::to_string(error);
+    };
+    EXPECT_EQ(scaled(1, 3), "33");
+    EXPECT_EQ(scaled(-1, 3), "-34");
+    EXPECT_EQ(scaled(3, -2), "-150");
+    EXPECT_EQ(scaled(32767, 100), "32767");
+    EXPECT_EQ(scaled(1, 0), "error 11");
+    EXPECT_EQ(scaled(0, 0), "error 6");
+    EXPECT_EQ(scaled(32768, 100), "error 6");
+    EXPECT_EQ(scaled(-32769, 100), "error 6");
+}
+
+TEST(ExportLine, DecimalSeparatorFollowsTheLocale) {
+    EXPECT_EQ(exportLine(1.5, 255, ','), "1,50,255,00");
+    testing::NumericLocale locale;
+    if (!locale.useDecimalComma())
+        GTEST_SKIP() << "no locale with a decimal comma installed";
+    EXPECT_EQ(exportLine(12, 16711680), "12,00,16711680,00");
 }
 
 } // namespace
