@@ -1,7 +1,10 @@
+#include "editor/axis_ticks.h"
 #include "editor/distribution.h"
 #include "editor/distribution_counting.h"
 #include "editor/editor_fakes.h"
+#include "editor/graph_readout.h"
 #include "editor/lut_editor_model.h"
+#include "editor/value_layouts.h"
 #include "util/variant.h"
 #include "util/vb_error.h"
 
@@ -34,10 +37,8 @@ TEST(EditorInitialisation, DefaultDistributionGivesTheBuiltInCurveAndABlackToWhi
     EXPECT_EQ(editor.DataMax(), 200.0f);
     EXPECT_EQ(editor.MaxCount(), 100.0f);
     EXPECT_EQ(editor.AltiArrays(), (std::vector<float>{0.0f, 100.0f, 200.0f}));
-
     const std::vector<CurveSegment> expectedLines{{{0, 1}, {100, 100}}, {{100, 100}, {200, 50}}};
     EXPECT_EQ(editor.curve().lines(), expectedLines);
-    // Points on every row but the last.
     EXPECT_EQ(editor.curve().points(), (std::vector<CurvePoint>{{0, 1}, {100, 100}}));
 
     ASSERT_EQ(owner.received.size(), 1u);
@@ -49,8 +50,7 @@ TEST(EditorInitialisation, DefaultDistributionGivesTheBuiltInCurveAndABlackToWhi
 TEST(EditorInitialisation, OrderedArrayTakesItsEndsAsTheRangeAndTheHighestCount) {
     LutEditorModel editor;
     EXPECT_EQ(editor.MaxCount(), -9999999.0f);
-    // The rows are taken as they stand: the ends come from the first and
-    // last rows even when a middle row lies outside them.
+    // The ends come from the first and last rows even when a middle row lies outside them.
     editor.InitFromOrderedArray({{-5.5f, 3}, {-9.0f, 7}, {12.25f, 2}, {40.0f, 4}});
     EXPECT_EQ(editor.DataMin(), -5.5f);
     EXPECT_EQ(editor.DataMax(), 40.0f);
@@ -60,28 +60,18 @@ TEST(EditorInitialisation, OrderedArrayTakesItsEndsAsTheRangeAndTheHighestCount)
 
     editor.InitFromOrderedArray({{1.0f, -4}, {2.0f, -2}});
     EXPECT_EQ(editor.MaxCount(), -2.0f) << "the scan starts afresh below any count";
-}
 
-TEST(EditorInitialisation, EmptyOrderedArrayIsSubscriptErrorAndChangesNothing) {
-    LutEditorModel editor;
-    editor.DefaultLUT();
     EXPECT_EQ(errorNumber([&] { editor.InitFromOrderedArray({}); }), VbError::SubscriptOutOfRange);
-    EXPECT_EQ(editor.DataMax(), 200.0f);
-    EXPECT_EQ(editor.AltiArrays().size(), 3u);
+    EXPECT_EQ(editor.DataMax(), 2.0f) << "an empty table changes nothing";
 }
 
-TEST(EditorInitialisation, RowsFromTheHostsFieldsAreReadAsNumbers) {
-    EXPECT_EQ(DistributionRow::fromFields(Variant(" 12.5 "), Variant(3)),
-              (DistributionRow{12.5f, 3}));
-    EXPECT_EQ(DistributionRow::fromFields(Variant(-1437.0), Variant("1")),
-              (DistributionRow{-1437.0f, 1}));
-    EXPECT_EQ(errorNumber([] { DistributionRow::fromFields(Variant("x"), Variant(1)); }),
-              VbError::TypeMismatch);
-}
-
-TEST(StraightArray, SortsAndCountsDistinctValues) {
-    const auto rows = DistributionCounting::countStraightArray({5, 1, 3, 5, 1, 5, -2}, -9999);
-    EXPECT_EQ(rows, (std::vector<DistributionRow>{{-2, 1}, {1, 2}, {3, 1}, {5, 3}}));
+TEST(ValueLayouts, HostFieldsAreReadAsNumbersFromRowsOrColumns) {
+    EXPECT_EQ(ValueLayouts::orderedRows({{" 12.5 ", Variant("1"), "ignored"}}),
+              (std::vector<DistributionRow>{{12.5f, 1.0}}));
+    EXPECT_EQ(errorNumber([] { ValueLayouts::orderedRows({{"high", 3}}); }), VbError::TypeMismatch);
+    EXPECT_EQ(errorNumber([] { ValueLayouts::orderedRows({{1.0}}); }),
+              VbError::SubscriptOutOfRange);
+    EXPECT_EQ(ValueLayouts::straightValues({{3}, {1}, {2}}), (std::vector<float>{3, 1, 2}));
 }
 
 TEST(StraightArray, CountsMatchAnIndependentTallyBeyondThousandsOfDistinctValues) {
@@ -112,6 +102,10 @@ TEST(StraightArray, NoDataValueIsKeptOffBothEndsByOverwriting) {
     // Inside the range the no-data value is an ordinary value.
     EXPECT_EQ(DistributionCounting::countStraightArray({1, 4, 9}, 4),
               (std::vector<DistributionRow>{{1, 1}, {4, 1}, {9, 1}}));
+    // Nothing left beside it is error 9.
+    for (const std::vector<float>& values : {std::vector<float>{-1, -1}, std::vector<float>{}})
+        EXPECT_EQ(errorNumber([&] { DistributionCounting::countStraightArray(values, -1); }),
+                  VbError::SubscriptOutOfRange);
 
     LutEditorModel editor;
     editor.InitFromStraightArray({-1, 10, 20, 30, -1}, -1);
@@ -120,26 +114,12 @@ TEST(StraightArray, NoDataValueIsKeptOffBothEndsByOverwriting) {
     EXPECT_EQ(editor.row(0).value, 10.0f);
 }
 
-TEST(StraightArray, NothingLeftBesideTheNoDataValueIsSubscriptError) {
-    EXPECT_EQ(errorNumber([] {
-                  DistributionCounting::countStraightArray({-1, -1}, -1);
-              }),
-              VbError::SubscriptOutOfRange);
-    EXPECT_EQ(errorNumber([] { DistributionCounting::countStraightArray({}, -1); }),
-              VbError::SubscriptOutOfRange);
-}
-
 TEST(StdArray, ValuesWithTheSameShortTextMergeAndComeOutAscending) {
     const float tenth = 0.1f;
     const float nearTenth = std::nextafter(tenth, 1.0f); // also "0.1" in seven digits
     const std::vector<std::vector<float>> grid{{5.0f, nearTenth, -3.0f}, {tenth, 5.0f, 5.0f}};
-    const auto rows = DistributionCounting::countStdArray(grid);
-    EXPECT_EQ(rows, (std::vector<DistributionRow>{{-3.0f, 1}, {nearTenth, 2}, {5.0f, 3}}));
-
-    LutEditorModel editor;
-    editor.InitFromStdArray(grid);
-    EXPECT_EQ(editor.AltiArrays(), (std::vector<float>{-3.0f, nearTenth, 5.0f}));
-    EXPECT_EQ(editor.MaxCount(), 3.0f);
+    EXPECT_EQ(DistributionCounting::countStdArray(grid),
+              (std::vector<DistributionRow>{{-3.0f, 1}, {nearTenth, 2}, {5.0f, 3}}));
 }
 
 TEST(ShownDistribution, SetPropertiesxChangesTheGraphAndEndsButNotValuesNodesOrTable) {
@@ -151,7 +131,6 @@ TEST(ShownDistribution, SetPropertiesxChangesTheGraphAndEndsButNotValuesNodesOrT
     const NodeRow middle = editor.row(1);
 
     editor.setPropertiesx({{-4, 2}, {8, 9}, {30, 1}});
-    EXPECT_TRUE(editor.distributionSet());
     EXPECT_EQ(editor.DataMin(), -4.0f);
     EXPECT_EQ(editor.DataMax(), 30.0f);
     EXPECT_EQ(editor.MaxCount(), 9.0f);
@@ -162,6 +141,45 @@ TEST(ShownDistribution, SetPropertiesxChangesTheGraphAndEndsButNotValuesNodesOrT
     EXPECT_EQ(editor.row(1), middle);
     EXPECT_EQ(editor.colorBar().slices(), barBefore);
     EXPECT_EQ(owner.received.size(), 1u);
+}
+
+TEST(GraphCoordinates, ValueAxisHasMarginsOfTwoAndAHalfPercentAndCountsGrowUpwards) {
+    LutEditorModel editor;
+    editor.InitFromOrderedArray({{-100, 10}, {0, 50}, {300, 20}});
+    const GraphCoordinates& c = editor.graphCoordinates();
+    // The data range sits inside the margins; the bottom edge is -0.2 MaxCount.
+    EXPECT_NEAR(c.xToPixel(-100, 420), 10.0, 1e-4);
+    EXPECT_NEAR(c.xToPixel(300, 420), 410.0, 1e-4);
+    EXPECT_NEAR(c.pixelToY(130, 130), -10.0, 1e-4);
+    EXPECT_NEAR(c.yToPixel(0, 130), 110.0, 1e-4);
+
+    // A zero extent maps to the edge instead of dividing by zero.
+    const GraphCoordinates flat = GraphCoordinates::forDistribution(5.0f, 5.0f, 0.0f);
+    EXPECT_EQ(flat.xToPixel(5.0, 300), 0.0);
+    EXPECT_EQ(flat.yToPixel(1.0, 300), 0.0);
+    EXPECT_EQ(flat.pixelToX(10, 0), flat.left);
+}
+
+TEST(GraphReadout, RoundsHalfToEvenAndNamesBothAxes) {
+    const std::pair<double, const char*> rows[] = {
+        {2.5, "2"}, {3.5, "4"}, {-0.4, "0"}, {-1437.6, "-1438"}, {123456789.0, "123456789"}};
+    for (const auto& [x, text] : rows)
+        EXPECT_EQ(GraphReadout::xText(x), text) << x;
+    EXPECT_EQ(GraphReadout::toolTip(10.5, 99.5), "Val: 10 nbVal: 100");
+}
+
+TEST(AxisTicks, AreRoundStepsInsideTheRange) {
+    EXPECT_EQ(axisTicks(0, 200, 5), (std::vector<double>{0, 50, 100, 150, 200}));
+    EXPECT_EQ(axisTicks(0.31, 0.77, 4), (std::vector<double>{0.4, 0.6}));
+    for (const auto& [from, to] : {std::pair{-3.7, 8123.0}, {1e-3, 2e-3}, {-50.0, -49.0}}) {
+        const std::vector<double> ticks = axisTicks(from, to, 8);
+        ASSERT_GE(ticks.size(), 3u) << from;
+        EXPECT_LE(ticks.size(), 9u) << from;
+        EXPECT_GE(ticks.front(), from);
+        EXPECT_LE(ticks.back(), to);
+    }
+    EXPECT_TRUE(axisTicks(5, 5, 6).empty());
+    EXPECT_TRUE(axisTicks(0, 10, 0).empty());
 }
 
 } // namespace

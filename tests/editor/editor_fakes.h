@@ -8,8 +8,8 @@
 
 namespace huebase::testing {
 
-// An owner that behaves like the LUT control: it keeps the last table sent
-// and gives it back on reset.
+// An owner that behaves like the LUT control: it keeps the tables sent and
+// gives the last one back on reset.
 class FakeOwner : public LutEditorOwner {
 public:
     explicit FakeOwner(LutEditorModel& editor) : editor_(editor) { editor.setOwner(this); }
@@ -30,18 +30,11 @@ private:
     LutEditorModel& editor_;
 };
 
-// Counts what the widgets would be told.
 class CountingListener : public LutEditorListener {
 public:
-    void graphPrepared() override { ++graph; }
-    void rowsReset() override { ++rowsResets; }
-    void rowChanged(int row) override { changedRows.push_back(row); }
     void tabsPlaced() override { ++tabs; }
     void colorBarPainted() override { ++bars; }
 
-    int graph = 0;
-    int rowsResets = 0;
-    std::vector<int> changedRows;
     int tabs = 0;
     int bars = 0;
 };

@@ -21,79 +21,91 @@ NodeRows rowsFrom(const LutTable& table) {
     return rows;
 }
 
-TEST(NodeRowsEnds, FirstRowIsLockedBlackAndLastRowWhiteWithItsLockUntouched) {
-    NodeRows rows = rowsFrom({node(0, MethodLin, 5), node(1, MethodExp, 6), node(2, MethodLog, 7)});
-    rows.setLock(2, false);
-    rows.prepareEnds(-3.0f, 9.0f);
-    EXPECT_EQ(rows[0], (NodeRow{-3.0f, -3.0f, -3.0f, true, MethodLin, 0}));
-    EXPECT_EQ(rows[2], (NodeRow{9.0f, 9.0f, 9.0f, false, MethodLog, kWhite}));
-    EXPECT_EQ(rows[1].value, 1.0f) << "middle rows are left as they are";
-    EXPECT_EQ(rows[1].color, 6);
+LutTable ramp(std::initializer_list<float> values) {
+    LutTable table;
+    for (float v : values)
+        table.push_back(node(v, MethodLin, 0));
+    return table;
 }
 
-TEST(NodeRowsFill, EachRowTakesItsNodeAndItsNeighboursValuesAsBounds) {
+TEST(NodeRows, FillTakesEachNodeWithItsNeighboursAsBoundsAndGivesTheTableBack) {
+    const LutTable table{node(0, MethodLin, 1, -1), node(10, MethodLog, 2, 20),
+                         node(20, MethodExpPlus, 3, 30), node(30, MethodNone, 4, 33)};
     NodeRows rows;
     rows.prepareEnds(-1.0f, 1.0f);
-    rows.fill({node(0, MethodLin, 1, 10), node(10, MethodLog, 2, 20), node(20, MethodExp, 3, 30),
-               node(30, MethodNone, 4, 33)});
+    rows.setLock(0, false);
+    rows.fill(table);
     ASSERT_EQ(rows.count(), 4);
-    // Row 0 keeps the bounds it had.
-    EXPECT_EQ(rows[0], (NodeRow{0, -1, -1, true, MethodLin, 1}));
+    EXPECT_EQ(rows[0], (NodeRow{0, -1, -1, true, MethodLin, 1})) << "row 0 keeps its bounds";
     EXPECT_EQ(rows[1], (NodeRow{10, 0, 20, false, MethodLog, 2}));
-    EXPECT_EQ(rows[2], (NodeRow{20, 10, 30, false, MethodExp, 3}));
     EXPECT_EQ(rows[3], (NodeRow{30, 20, 33, true, MethodNone, 4}));
+    EXPECT_EQ(rows.toTable(), table) << "row k becomes node k+1";
+    rows.setMax(1, 6.5f);
+    EXPECT_EQ(rows.toTable()[1].upper, 6.5f) << "the upper field is the row's upper bound";
+
+    // The ends: first row locked black, last white with its lock untouched.
+    rows.setLock(0, false);
+    rows.setLock(3, false);
+    rows.prepareEnds(-3.0f, 9.0f);
+    EXPECT_EQ(rows[0], (NodeRow{-3.0f, -3.0f, -3.0f, true, MethodLin, 0}));
+    EXPECT_EQ(rows[3], (NodeRow{9.0f, 9.0f, 9.0f, false, MethodNone, kWhite}));
+    EXPECT_EQ(rows[2].value, 20.0f) << "middle rows are left as they are";
 }
 
-TEST(NodeRowsFill, ShorterTableRemovesRowsAndOneNodeKeepsRowOne) {
-    NodeRows rows = rowsFrom({node(0, 0, 0), node(1, 0, 0), node(2, 0, 0), node(3, 0, 0)});
+TEST(NodeRows, ShorterTablesRemoveRowsButTwoStayAndBadSizesChangeNothing) {
+    NodeRows rows = rowsFrom(ramp({0, 1, 2, 3}));
     rows.fill({node(5, MethodExp, 9), node(8, MethodLin, 7, 8)});
     ASSERT_EQ(rows.count(), 2);
-    EXPECT_EQ(rows[1], (NodeRow{8, 5, 8, true, MethodLin, 7}));
-
     const NodeRow rowOne = rows[1];
+    EXPECT_EQ(rowOne, (NodeRow{8, 5, 8, true, MethodLin, 7}));
+
     rows.fill({node(4, MethodLog, 3)});
     ASSERT_EQ(rows.count(), 2);
     EXPECT_EQ(rows[0].value, 4.0f);
-    EXPECT_EQ(rows[1], rowOne);
-}
+    EXPECT_EQ(rows[1], rowOne) << "a one-node table keeps row 1";
 
-TEST(NodeRowsFill, RefusesEmptyAndOversizedTablesWithoutChange) {
-    NodeRows rows = rowsFrom({node(0, 0, 0), node(1, 0, 0), node(2, 0, 0)});
     EXPECT_THROW(rows.fill({}), VbError);
     EXPECT_THROW(rows.fill(LutTable(NodeRows::kMaxRows + 1)), VbError);
-    EXPECT_EQ(rows.count(), 3);
+    EXPECT_EQ(rows[0].value, 4.0f);
     EXPECT_NO_THROW(rows.fill(LutTable(NodeRows::kMaxRows)));
 }
 
-TEST(NodeRowsTable, RowKBecomesNodeKPlusOneAndALoadedTableComesBackUnchanged) {
-    const LutTable table{node(-2, MethodExpPlus, 0x102030, -2),
-                         node(0.5f, MethodLogPlus, 0xABCDEF, 7), node(7, MethodNone, 0x0000FF, 12),
-                         node(12, MethodLin, kWhite, 12)};
-    NodeRows rows;
-    rows.prepareEnds(-2, 12);
-    rows.fill(table);
-    EXPECT_EQ(rows.toTable(), table);
-    rows.setMax(1, 6.5f);
-    EXPECT_EQ(rows.toTable()[1].upper, 6.5f) << "the upper field is the row's upper bound";
-}
-
-TEST(NodeRowsOffset, TypedValueReachesNeighboursButNeverTheEndRows) {
-    NodeRows rows =
-        rowsFrom({node(0, 0, 0), node(10, 0, 0), node(20, 0, 0), node(30, 0, 0), node(40, 0, 0)});
+TEST(NodeRows, TypedOrDraggedValuesReachTheNeighboursBounds) {
+    NodeRows rows = rowsFrom(ramp({0, 10, 20, 30, 40}));
     rows.passOffset(2, 22);
     EXPECT_EQ(rows[2].value, 22.0f);
     EXPECT_EQ(rows[1].upper, 22.0f);
     EXPECT_EQ(rows[3].lower, 22.0f);
-
-    const NodeRow first = rows[0];
+    const NodeRows before = rows;
     rows.passOffset(1, 5);
-    EXPECT_EQ(rows[0], first);
-    EXPECT_EQ(rows[2].lower, 5.0f);
-
-    const NodeRow last = rows[4];
     rows.passOffset(3, 35);
-    EXPECT_EQ(rows[4], last);
+    EXPECT_EQ(rows[0], before[0]) << "the end rows never take a typed value";
+    EXPECT_EQ(rows[4], before[4]);
+    EXPECT_EQ(rows[2].lower, 5.0f);
     EXPECT_EQ(rows[2].upper, 35.0f);
+
+    // A drag moves a middle node only strictly inside its bounds (here 5..35).
+    EXPECT_TRUE(rows.moveNode(2, 15));
+    EXPECT_EQ(rows[1].upper, 15.0f);
+    EXPECT_EQ(rows[3].lower, 15.0f);
+    for (float x : {35.0f, 5.0f, 40.0f})
+        EXPECT_FALSE(rows.moveNode(2, x)) << x;
+    EXPECT_EQ(rows[2].value, 15.0f);
+    EXPECT_FALSE(rows.moveNode(0, 1));
+    EXPECT_FALSE(rows.moveNode(4, 38));
+}
+
+TEST(NodeRows, TheTopmostButtonUnderAValueIsTheLaterRow) {
+    NodeRows rows = rowsFrom(ramp({0, 10, 11, 30}));
+    // Buttons span value - 1 up to just before value + 1.
+    const std::pair<float, int> hits[] = {
+        {10.6f, 2}, {9.5f, 1}, {-0.9f, 0}, {20.0f, -1}, {31.0f, -1}};
+    for (const auto& [x, button] : hits)
+        EXPECT_EQ(rows.buttonAt(x, 1.0f), button) << x;
+
+    rows.passOffset(1, 12); // out of order: the search falls back to a scan
+    EXPECT_EQ(rows.buttonAt(11.6f, 1.0f), 2);
+    EXPECT_EQ(rows.buttonAt(12.8f, 1.0f), 1);
 }
 
 TEST(NodeRowsInsert, NewNodeTakesTheRampColourTheMethodAboveAndBoundsFromItsNeighbours) {
@@ -112,21 +124,22 @@ TEST(NodeRowsInsert, NewNodeTakesTheRampColourTheMethodAboveAndBoundsFromItsNeig
     EXPECT_EQ(rows.insertAt(150), 3);
     EXPECT_EQ(rows[3].color, 0xBFBFBF);
     EXPECT_EQ(rows[3].method, MethodLog);
+
+    for (float x : {0.0f, 50.0f, 200.0f, -1.0f, 250.0f})
+        EXPECT_EQ(rows.insertAt(x), -1) << "on a node or outside: " << x;
+    EXPECT_EQ(rows.count(), 5);
 }
 
-TEST(NodeRowsInsert, OnANodeOrOutsideTheNodesNothingIsAdded) {
-    NodeRows rows = rowsFrom({node(0, 0, 0), node(10, 0, 0), node(20, 0, 0)});
-    for (float x : {0.0f, 10.0f, 20.0f, -1.0f, 25.0f}) {
-        EXPECT_EQ(rows.insertAt(x), -1) << x;
-    }
-    EXPECT_EQ(rows.count(), 3);
-}
+TEST(NodeRowsInsert, FullRowsAreOverflowAfterWhatFits) {
+    NodeRows rows = rowsFrom({node(0, 0, 0), node(1000000, 0, kWhite)});
+    std::vector<float> values(NodeRows::kMaxRows + 10);
+    for (std::size_t i = 0; i < values.size(); ++i)
+        values[i] = static_cast<float>(i + 1);
+    EXPECT_THROW(rows.insertEach(values), VbError);
+    ASSERT_EQ(rows.count(), NodeRows::kMaxRows);
+    EXPECT_EQ(rows[NodeRows::kMaxRows - 2].value, static_cast<float>(NodeRows::kMaxRows - 2));
+    EXPECT_EQ(rows[NodeRows::kMaxRows - 1].lower, rows[NodeRows::kMaxRows - 2].value);
 
-TEST(NodeRowsInsert, FullRowsAreOverflow) {
-    LutTable table(NodeRows::kMaxRows);
-    for (std::size_t i = 0; i < table.size(); ++i)
-        table[i].value = static_cast<float>(i);
-    NodeRows rows = rowsFrom(table);
     EXPECT_EQ(rows.insertAt(-5), -1) << "a refused value needs no room";
     EXPECT_THROW(rows.insertAt(0.5f), VbError);
 }
@@ -150,7 +163,7 @@ void expectSameAsOneAtATime(const NodeRows& start, const std::vector<float>& val
         ASSERT_EQ(merged[k], oneByOne[k]) << "row " << k;
 }
 
-TEST(NodeRowsInsertEach, MatchesOneAtATimeForEveryMethodDuplicatesAndValuesOutsideTheNodes) {
+TEST(NodeRowsInsertEach, MatchesOneAtATimeForEveryMethodDuplicatesAndRowsOutOfOrder) {
     std::mt19937 random(11);
     std::uniform_int_distribution<int> method(0, kMethodCount - 1);
     std::uniform_int_distribution<int> color(0, 0xFFFFFF);
@@ -159,63 +172,20 @@ TEST(NodeRowsInsertEach, MatchesOneAtATimeForEveryMethodDuplicatesAndValuesOutsi
         LutTable table{node(0, method(random), color(random))};
         for (float v : {20.0f, 20.0f, 45.5f, 80.0f, 100.0f})
             table.push_back(node(v, static_cast<std::uint8_t>(method(random)), color(random)));
-        NodeRows start = rowsFrom(table);
         std::vector<float> values(300);
         for (float& v : values)
             v = std::round(value(random) * 2.0f) / 2.0f; // repeats and node values
         std::sort(values.begin(), values.end());
-        expectSameAsOneAtATime(start, values);
+        expectSameAsOneAtATime(rowsFrom(table), values);
     }
-}
 
-TEST(NodeRowsInsertEach, RowsOutOfOrderStillMatchOneAtATime) {
-    NodeRows start = rowsFrom({node(0, 0, 0), node(10, 0, 0x00FF00), node(20, 0, kWhite)});
-    start.passOffset(1, 25); // a typed value beyond its neighbour
-    expectSameAsOneAtATime(start, {1, 5, 12, 15, 21, 22, 24});
-}
-
-TEST(NodeRowsInsertEach, FillingUpInsertsWhatFitsThenOverflows) {
-    LutTable table{node(0, 0, 0), node(1000000, 0, kWhite)};
-    NodeRows rows = rowsFrom(table);
-    std::vector<float> values(NodeRows::kMaxRows + 10);
-    for (std::size_t i = 0; i < values.size(); ++i)
-        values[i] = static_cast<float>(i + 1);
-    EXPECT_THROW(rows.insertEach(values), VbError);
-    ASSERT_EQ(rows.count(), NodeRows::kMaxRows);
-    EXPECT_EQ(rows[NodeRows::kMaxRows - 2].value, static_cast<float>(NodeRows::kMaxRows - 2));
-    EXPECT_EQ(rows[NodeRows::kMaxRows - 1].lower, rows[NodeRows::kMaxRows - 2].value);
-}
-
-TEST(NodeRowsMove, MiddleNodeMovesOnlyStrictlyInsideItsBounds) {
-    NodeRows rows = rowsFrom({node(0, 0, 0), node(10, 0, 0), node(20, 0, 0)});
-    EXPECT_TRUE(rows.moveNode(1, 15));
-    EXPECT_EQ(rows[1].value, 15.0f);
-    EXPECT_EQ(rows[0].upper, 15.0f);
-    EXPECT_EQ(rows[2].lower, 15.0f);
-    EXPECT_FALSE(rows.moveNode(1, 20));
-    EXPECT_FALSE(rows.moveNode(1, 0));
-    EXPECT_FALSE(rows.moveNode(1, 25));
-    EXPECT_EQ(rows[1].value, 15.0f);
-    EXPECT_FALSE(rows.moveNode(0, 5));
-    EXPECT_FALSE(rows.moveNode(2, 18));
-}
-
-TEST(NodeRowsButtons, TheTopmostButtonUnderAValueIsTheLaterRow) {
-    NodeRows rows = rowsFrom({node(0, 0, 0), node(10, 0, 0), node(11, 0, 0), node(30, 0, 0)});
-    EXPECT_EQ(rows.buttonAt(10.6f, 1.0f), 2);
-    EXPECT_EQ(rows.buttonAt(9.5f, 1.0f), 1);
-    EXPECT_EQ(rows.buttonAt(-0.9f, 1.0f), 0);
-    EXPECT_EQ(rows.buttonAt(20.0f, 1.0f), -1);
-    EXPECT_EQ(rows.buttonAt(31.0f, 1.0f), -1) << "a button ends just before value + half width";
-
-    rows.passOffset(1, 12); // out of order: the search falls back to a scan
-    EXPECT_EQ(rows.buttonAt(11.6f, 1.0f), 2);
-    EXPECT_EQ(rows.buttonAt(12.8f, 1.0f), 1);
+    NodeRows outOfOrder = rowsFrom({node(0, 0, 0), node(10, 0, 0x00FF00), node(20, 0, kWhite)});
+    outOfOrder.passOffset(1, 25); // a typed value beyond its neighbour
+    expectSameAsOneAtATime(outOfOrder, {1, 5, 12, 15, 21, 22, 24});
 }
 
 TEST(NodeRowsInsertEach, CloseValuesFollowTheStartingRampInsteadOfStalling) {
-    // 1,000 values one unit apart on a black-to-white ramp of 2,000 units:
-    // each step is a quarter of a grey level, which blending from the node
+    // Each step is a quarter of a grey level, which blending from the node
     // inserted just before would round away.
     NodeRows rows = rowsFrom({node(0, MethodLin, 0), node(2000, MethodLin, kWhite)});
     std::vector<float> values;
