@@ -1,67 +1,51 @@
 #include "core/color_value.h"
 #include "core/lut_node.h"
-#include "util/vb_error.h"
+#include "util/error_test_support.h"
 
 #include <gtest/gtest.h>
 
-#include <cmath>
 #include <limits>
+#include <tuple>
 
 namespace huebase {
 namespace {
 
-int errorNumberOf(ColorValue color) {
-    try {
-        GreenOf(color);
-    } catch (const VbError& error) {
-        return error.number();
-    }
-    return 0;
-}
+using testing::errorNumberOf;
 
-TEST(ColorComponents, SplitTheThreeBytes) {
+TEST(ColorComponents, SplitTheBytesIgnoringUpperBitsButGreenOfBit24Overflows) {
     EXPECT_EQ(RedOf(0x123456), 0x56);
     EXPECT_EQ(GreenOf(0x123456), 0x34);
     EXPECT_EQ(BlueOf(0x123456), 0x12);
-    EXPECT_EQ(RedOf(0xFFFFFF), 255);
-    EXPECT_EQ(GreenOf(0xFFFFFF), 255);
-    EXPECT_EQ(BlueOf(0xFFFFFF), 255);
     EXPECT_EQ(composeColor(0x56, 0x34, 0x12), 0x123456);
-}
-
-TEST(ColorComponents, UpperBitsOutsideBit24AreIgnored) {
-    const ColorValue signedColor = static_cast<ColorValue>(0xFEAB12CDu); // bit 24 clear
-    EXPECT_EQ(RedOf(signedColor), 0xCD);
-    EXPECT_EQ(GreenOf(signedColor), 0x12);
-    EXPECT_EQ(BlueOf(signedColor), 0xAB);
+    const ColorValue upper = static_cast<ColorValue>(0xFEAB12CDu); // bit 24 clear
+    EXPECT_EQ(RedOf(upper), 0xCD);
+    EXPECT_EQ(GreenOf(upper), 0x12);
+    EXPECT_EQ(BlueOf(upper), 0xAB);
     EXPECT_EQ(GreenOf(static_cast<ColorValue>(0x80000000u)), 0);
+    for (const ColorValue bit24 : {0x01000000, 0x0100FF00, -1})
+        EXPECT_EQ(errorNumberOf([&] { GreenOf(bit24); }), VbError::Overflow) << bit24;
 }
 
-TEST(ColorComponents, GreenOfAColourWithBit24SetOverflows) {
-    EXPECT_EQ(errorNumberOf(0x01000000), VbError::Overflow);
-    EXPECT_EQ(errorNumberOf(0x0100FF00), VbError::Overflow);
-    EXPECT_EQ(errorNumberOf(-1), VbError::Overflow);
-    EXPECT_EQ(errorNumberOf(0x00FFFFFF), 0);
+TEST(BlendColor, MixesEachChannelLinearlyAndRoundsHalfToEven) {
+    // 127.5 gives 128 and 126.5 gives 126; 0.75 of the way from red to blue is
+    // 63.75 red and 191.25 blue; tiny fractions still blend; a blend drops
+    // the upper bits.
+    const std::tuple<ColorValue, ColorValue, float, ColorValue> rows[] = {
+        {0x000000, 0x0000FF, 0.5f, 0x000080},
+
+        {0x000000, 0x0000FD, 0.5f, 0x00007E},
+        {0x000000, 0x00FD00, 0.5f, 0x007E00},
+
+        {0x0000FF, 0xFF0000, 0.75f, 0xBF0040},
+        {0x102030, 0x102030, 0.3f, 0x102030},
+        {0x000000, 0x0000FF, 0.003f, 0x000001},
+
+        {static_cast<ColorValue>(0xF2000000u), 0x10, 0.5f, 8}};
+    for (const auto& [a, b, t, blend] : rows)
+        EXPECT_EQ(BlendColor(a, b, t), blend) << std::hex << a << " " << b << " " << t;
 }
 
-TEST(BlendColor, MidwayRoundsHalfToEvenPerChannel) {
-    EXPECT_EQ(BlendColor(0x000000, 0x0000FF, 0.5f), 0x000080); // 127.5 -> 128
-    EXPECT_EQ(BlendColor(0x000000, 0x0000FD, 0.5f), 0x00007E); // 126.5 -> 126
-    EXPECT_EQ(BlendColor(0x000000, 0x00FF00, 0.5f), 0x008000);
-    EXPECT_EQ(BlendColor(0x000000, 0xFD0000, 0.5f), 0x7E0000);
-    EXPECT_EQ(BlendColor(0x0000FF, 0x000000, 0.5f), 0x000080);
-}
-
-TEST(BlendColor, InteriorFractionsMixEachChannelLinearly) {
-    EXPECT_EQ(BlendColor(0x000000, 0x0000FF, 0.25f), 0x000040);                 // 63.75
-    EXPECT_EQ(BlendColor(0x102030, 0x102030, 0.3f), 0x102030);                  // no drift
-    EXPECT_EQ(BlendColor(0xFF0000, 0x0000FF, 0.75f), composeColor(191, 0, 64)); // 191.25, 63.75
-    // Tiny fractions still blend (no early exit besides t <= 0).
-    EXPECT_EQ(BlendColor(0x000000, 0x0000FF, 0.003f), 0x000001); // 0.765
-    EXPECT_EQ(BlendColor(0x000000, 0x0000FF, 0.001f), 0x000000); // 0.255
-}
-
-TEST(BlendColor, EndsReturnTheWholeValueUnchanged) {
+TEST(BlendColor, EndsReturnTheWholeValueUnchangedAndInteriorBit24Fails) {
     const ColorValue a = static_cast<ColorValue>(0xFF123456u);
     const ColorValue b = 0x7F654321;
     const float nan = std::numeric_limits<float>::quiet_NaN();
@@ -70,38 +54,18 @@ TEST(BlendColor, EndsReturnTheWholeValueUnchanged) {
         EXPECT_EQ(BlendColor(a, b, t), a) << t;
     for (const float t : {1.0f, 1.5f, 1e30f, inf})
         EXPECT_EQ(BlendColor(a, b, t), b) << t;
+    EXPECT_EQ(errorNumberOf([] { BlendColor(0x01000000, 0, 0.5f); }), VbError::Overflow);
+    EXPECT_EQ(errorNumberOf([] { BlendColor(0, 0x01000000, 0.5f); }), VbError::Overflow);
 }
 
-TEST(BlendColor, InteriorRecomposesWithoutUpperBitsAndFailsOnBit24) {
-    EXPECT_EQ(BlendColor(static_cast<ColorValue>(0xF2000000u), 0x000010, 0.5f), 0x000008);
-    EXPECT_THROW(BlendColor(0x01000000, 0x000000, 0.5f), VbError);
-    EXPECT_THROW(BlendColor(0x000000, 0x01000000, 0.5f), VbError);
-    EXPECT_EQ(BlendColor(0x01000000, 0x000000, 0.0f), 0x01000000);
-}
-
-TEST(RampWeight, EachMethodBendsTheFraction) {
-    EXPECT_FLOAT_EQ(rampWeight(MethodLin, 0.25f), 0.25f);
-    EXPECT_FLOAT_EQ(rampWeight(MethodLog, 0.25f), 0.0625f);
-    EXPECT_FLOAT_EQ(rampWeight(MethodExp, 0.25f), 0.5f);
-    EXPECT_FLOAT_EQ(rampWeight(MethodLogPlus, 0.5f), 0.0625f);
-    EXPECT_NEAR(rampWeight(MethodExpPlus, 0.25f), 0.6597540f, 1e-6f);
-    EXPECT_EQ(rampWeight(MethodNone, 0.25f), 0.0f);
-    EXPECT_EQ(rampWeight(6, 0.25f), 0.0f);
-    EXPECT_EQ(rampWeight(255, 0.25f), 0.0f);
-    for (std::uint8_t m = MethodLin; m <= MethodExpPlus; ++m) {
-        EXPECT_EQ(rampWeight(m, 0.0f), 0.0f) << methodName(m);
-        EXPECT_EQ(rampWeight(m, 1.0f), 1.0f) << methodName(m);
+TEST(RampWeight, MethodsAreNamedByCodeAndRampFromZeroToOne) {
+    const char* names[] = {"Lin", "Log", "Exp", "Log+", "Exp+", "None", ""};
+    for (std::uint8_t m = 0; m < 7; ++m) {
+        EXPECT_STREQ(methodName(m), names[m]);
+        EXPECT_EQ(rampWeight(m, 0.0f), 0.0f) << names[m];
+        EXPECT_EQ(rampWeight(m, 1.0f), m < MethodNone ? 1.0f : 0.0f) << names[m];
     }
-}
-
-TEST(RampWeight, MethodNamesFollowTheirCodes) {
-    EXPECT_STREQ(methodName(MethodLin), "Lin");
-    EXPECT_STREQ(methodName(MethodLog), "Log");
-    EXPECT_STREQ(methodName(MethodExp), "Exp");
-    EXPECT_STREQ(methodName(MethodLogPlus), "Log+");
-    EXPECT_STREQ(methodName(MethodExpPlus), "Exp+");
-    EXPECT_STREQ(methodName(MethodNone), "None");
-    EXPECT_STREQ(methodName(6), "");
+    EXPECT_EQ(rampWeight(255, 0.25f), 0.0f);
 }
 
 } // namespace

@@ -7,7 +7,7 @@
 namespace huebase {
 namespace {
 
-TEST(Services, MessagesReachTheInstalledResponderWithQueuedAnswers) {
+TEST(Services, MessagesAndProgramEndsReachTheInstalledHandlers) {
     testing::ServiceRecorder recorder;
     recorder.queueAnswer(MessageAnswer::Cancel);
     EXPECT_EQ(showMessage("Overwrite x ?", "File exists ...", MessageIcon::Question,
@@ -19,17 +19,8 @@ TEST(Services, MessagesReachTheInstalledResponderWithQueuedAnswers) {
     EXPECT_EQ(recorder.messages()[0].text, "Overwrite x ?");
     EXPECT_EQ(recorder.messages()[0].title, "File exists ...");
     EXPECT_EQ(recorder.messages()[0].icon, MessageIcon::Question);
-}
-
-TEST(Services, EndProgramCallsTheHandlerAndRecordersRestoreThePreviousOne) {
-    testing::ServiceRecorder outer;
-    {
-        testing::ServiceRecorder inner;
-        endProgram(3);
-        EXPECT_EQ(inner.exitCodes(), std::vector<int>{3});
-    }
-    endProgram(0);
-    EXPECT_EQ(outer.exitCodes(), std::vector<int>{0});
+    endProgram(3);
+    EXPECT_EQ(recorder.exitCodes(), std::vector<int>{3});
 }
 
 } // namespace
