@@ -16,7 +16,7 @@ int main(int argc, char** argv) {
     }
     const std::string folder = argv[1];
     int failures = 0;
-    for (const huebase::testing::StarterRamp& ramp : huebase::testing::starterRamps()) {
+    for (const huebase::starter::StarterRamp& ramp : huebase::starter::starterRamps()) {
         const std::string path = folder + "/" + ramp.fileName;
         huebase::MiscFiles::KillFile(path);
         if (huebase::LutFile::LutSaveAs(path, ramp.table, ramp.noDataColor, '.') !=

@@ -4,7 +4,7 @@
 #include <initializer_list>
 #include <utility>
 
-namespace huebase::testing {
+namespace huebase::starter {
 
 namespace {
 
@@ -154,4 +154,4 @@ std::vector<StarterRamp> starterRamps() {
     };
 }
 
-} // namespace huebase::testing
+} // namespace huebase::starter

@@ -6,7 +6,7 @@
 #include <string>
 #include <vector>
 
-namespace huebase::testing {
+namespace huebase::starter {
 
 // A ramp of the starter library shipped in data/myLuts.
 struct StarterRamp {
@@ -18,4 +18,4 @@ struct StarterRamp {
 // The starter library, in the order the files are listed in its README.
 std::vector<StarterRamp> starterRamps();
 
-} // namespace huebase::testing
+} // namespace huebase::starter
