@@ -31,7 +31,7 @@ std::optional<float> recordNumber(const LutRecords& lut, bool first) {
 } // namespace
 
 ColorBarRowModel::ColorBarRowModel(std::string containerFont)
-    : look_(initialRowProperties(containerFont)) {}
+    : containerFont_(std::move(containerFont)), look_(initialRowProperties(containerFont_)) {}
 
 void ColorBarRowModel::guarded(const std::function<void()>& change) {
     const LutFit fit = fit_;
@@ -135,7 +135,7 @@ void ColorBarRowModel::setToolTipText(std::string text) {
 }
 
 void ColorBarRowModel::ReadProperties(const PropertyBag& bag) {
-    const RowProperties read = readRowProperties(bag, look_.Font);
+    const RowProperties read = readRowProperties(bag, containerFont_);
     look_ = read;
     pathText_ = read.FilePath;
     fit_.min = read.Min;

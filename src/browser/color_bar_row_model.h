@@ -111,7 +111,8 @@ private:
     ColorValue noDataColor_ = 0;
     std::string pathText_;
     std::string pathToolTip_;
-    RowProperties look_; // FilePath, Min and Max live above
+    std::string containerFont_; // the default font of a bag that has none
+    RowProperties look_;        // FilePath, Min and Max live above
     std::set<std::string> changed_;
 };
 

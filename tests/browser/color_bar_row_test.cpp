@@ -69,6 +69,7 @@ TEST_F(RowTest, PropertiesReadBackAndAnEmptyBagGivesTheBoundWords) {
     fresh.ReadProperties({});
     EXPECT_EQ(fresh.min(), "MinVal");
     EXPECT_EQ(fresh.Pathtxt(), "");
+    EXPECT_EQ(fresh.Font(), "Tahoma,8") << "a bag without a font gives the container's";
 }
 
 TEST_F(RowTest, EveryModeChangeRereadsTheFileSoFitsNeverAccumulate) {
