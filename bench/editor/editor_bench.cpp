@@ -4,6 +4,7 @@
 
 #include "editor/lut_editor_model.h"
 #include "editor/lut_editor_owner.h"
+#include "editor_bench_data.h"
 
 #include <benchmark/benchmark.h>
 
@@ -16,6 +17,8 @@ using huebase::DistributionRow;
 using huebase::LutEditorModel;
 using huebase::LutTable;
 using huebase::NodeRows;
+using huebase::bench::distribution;
+using huebase::bench::rampTable;
 
 constexpr int kLargest = NodeRows::kMaxRows;
 
@@ -27,27 +30,6 @@ public:
     void resetLutTable() override {}
     LutTable held;
 };
-
-// An elevation-like distribution of n distinct values in half-metre steps.
-std::vector<DistributionRow> distribution(int n) {
-    std::vector<DistributionRow> rows(static_cast<std::size_t>(n));
-    for (int i = 0; i < n; ++i)
-        rows[i] = {-1500.0f + 0.5f * static_cast<float>(i),
-                   static_cast<double>(1 + (i * 7919) % 613)};
-    return rows;
-}
-
-LutTable rampTable(int n, float from, float to) {
-    LutTable table(static_cast<std::size_t>(n));
-    for (int i = 0; i < n; ++i) {
-        const float value = from + (to - from) * static_cast<float>(i) / static_cast<float>(n - 1);
-        table[i] = {value, static_cast<std::uint8_t>(i % 5),
-                    huebase::composeColor(i % 256, 255 - i % 256, i % 97), value};
-    }
-    for (int i = 0; i + 1 < n; ++i)
-        table[i].upper = table[i + 1].value;
-    return table;
-}
 
 void BM_InitFromOrderedArray(benchmark::State& state) {
     const std::vector<DistributionRow> rows = distribution(kLargest);

@@ -8,6 +8,7 @@
 #include "editor/lut_editor_window.h"
 #include "editor/node_tab_strip.h"
 #include "editor/value_rows_panel.h"
+#include "editor_bench_data.h"
 
 #include <QApplication>
 #include <QMouseEvent>
@@ -25,6 +26,8 @@
 namespace {
 
 using namespace huebase;
+using bench::distribution;
+using bench::rampTable;
 
 constexpr int kLargest = NodeRows::kMaxRows;
 
@@ -47,26 +50,6 @@ std::unique_ptr<LutEditorWindow> shownEditor() {
     window->show();
     QApplication::processEvents();
     return window;
-}
-
-std::vector<DistributionRow> distribution(int n) {
-    std::vector<DistributionRow> rows(static_cast<std::size_t>(n));
-    for (int i = 0; i < n; ++i)
-        rows[i] = {-1500.0f + 0.5f * static_cast<float>(i),
-                   static_cast<double>(1 + (i * 7919) % 613)};
-    return rows;
-}
-
-LutTable rampTable(int n, float from, float to) {
-    LutTable table(static_cast<std::size_t>(n));
-    for (int i = 0; i < n; ++i) {
-        const float value = from + (to - from) * static_cast<float>(i) / static_cast<float>(n - 1);
-        table[i] = {value, static_cast<std::uint8_t>(i % 5),
-                    composeColor(i % 256, 255 - i % 256, i % 97), value};
-    }
-    for (int i = 0; i + 1 < n; ++i)
-        table[i].upper = table[i + 1].value;
-    return table;
 }
 
 double residentMegabytes() {

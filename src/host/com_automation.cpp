@@ -2,6 +2,8 @@
 
 #include "host/com_automation.h"
 
+#include "util/wide_text.h"
+
 // windows.h first: the COM headers rely on what it declares.
 #include <windows.h>
 
@@ -15,16 +17,6 @@
 namespace huebase {
 
 namespace {
-
-std::wstring wideFromUtf8(const std::string& text) {
-    if (text.empty())
-        return {};
-    const int size =
-        MultiByteToWideChar(CP_UTF8, 0, text.data(), static_cast<int>(text.size()), nullptr, 0);
-    std::wstring wide(static_cast<std::size_t>(size), L'\0');
-    MultiByteToWideChar(CP_UTF8, 0, text.data(), static_cast<int>(text.size()), wide.data(), size);
-    return wide;
-}
 
 std::string utf8FromBstr(BSTR text) {
     const int length = static_cast<int>(SysStringLen(text));

@@ -3,6 +3,8 @@
 #include <cstdio>
 
 #ifdef _WIN32
+#include "util/wide_text.h"
+
 #include <windows.h>
 #else
 #include <cerrno>
@@ -15,18 +17,6 @@ extern char** environ;
 namespace huebase {
 
 #ifdef _WIN32
-
-namespace {
-std::wstring wideFromUtf8(const std::string& text) {
-    if (text.empty())
-        return {};
-    const int size =
-        MultiByteToWideChar(CP_UTF8, 0, text.data(), static_cast<int>(text.size()), nullptr, 0);
-    std::wstring wide(static_cast<std::size_t>(size), L'\0');
-    MultiByteToWideChar(CP_UTF8, 0, text.data(), static_cast<int>(text.size()), wide.data(), size);
-    return wide;
-}
-} // namespace
 
 bool CommandNotifier::tell(const std::string& status) {
     std::fflush(nullptr);
