@@ -26,11 +26,23 @@ using huebase::bench::kFiles;
 const std::filesystem::path kProgram =
     std::filesystem::temp_directory_path() / "huebase-bench-browser-window";
 
-// Paints the window as shown and then every row, into reused pixmaps.
-void paintAll(LUTBrowser& browser, QPixmap& rowImage) {
+// Paints the window as shown and then every row, into one reused pixmap.
+void paintAll(LUTBrowser& browser) {
+    QPixmap rowImage(browser.rows().front()->size());
     benchmark::DoNotOptimize(browser.grab());
     for (ColorBarRow* row : browser.rows())
         row->render(&rowImage);
+}
+
+// Opens the browser on the benchmark library over the demo range and paints
+// the window and every row.
+void openAndPaint(LUTBrowser& browser) {
+    browser.setDataMin(kDataMin);
+    browser.setDataMax(kDataMax);
+    browser.loadLibrary(kProgram.string());
+    browser.resize(980, 640);
+    browser.show();
+    paintAll(browser);
 }
 
 void BM_OpenBrowser200(benchmark::State& state) {
@@ -38,13 +50,7 @@ void BM_OpenBrowser200(benchmark::State& state) {
     const bench::QuietMessages quiet;
     for (auto _ : state) {
         LUTBrowser browser;
-        browser.setDataMin(kDataMin);
-        browser.setDataMax(kDataMax);
-        browser.loadLibrary(kProgram.string());
-        browser.resize(980, 640);
-        browser.show();
-        QPixmap rowImage(browser.rows().front()->size());
-        paintAll(browser, rowImage);
+        openAndPaint(browser);
         if (browser.rows().size() != static_cast<std::size_t>(kFiles))
             state.SkipWithError("not every file became a row");
     }
@@ -55,18 +61,12 @@ void BM_ModeChange200(benchmark::State& state) {
     const bench::Library library(kProgram / "myLuts");
     const bench::QuietMessages quiet;
     LUTBrowser browser;
-    browser.setDataMin(kDataMin);
-    browser.setDataMax(kDataMax);
-    browser.loadLibrary(kProgram.string());
-    browser.resize(980, 640);
-    browser.show();
-    QPixmap rowImage(browser.rows().front()->size());
-    paintAll(browser, rowImage);
+    openAndPaint(browser);
     std::int16_t mode = 0;
     for (auto _ : state) {
         mode = static_cast<std::int16_t>((mode + 1) % 3);
         browser.setFittingMode(mode);
-        paintAll(browser, rowImage);
+        paintAll(browser);
     }
 }
 BENCHMARK(BM_ModeChange200)->Unit(benchmark::kMillisecond)->UseRealTime();
