@@ -54,8 +54,8 @@ function(huebase_test name)
         # The main is compiled into the test itself: the shared library's copy
         # never sees HUEBASE_TEST_NEEDS_X and would force the offscreen platform.
         target_sources(${name} PRIVATE ${PROJECT_SOURCE_DIR}/tests/support/qt_test_main.cpp)
-        target_link_libraries(${name} PRIVATE ${ARG_LIBS} huebase_test_support Qt6::Widgets
-                                              GTest::gtest Qt6::Test)
+        target_link_libraries(${name} PRIVATE ${ARG_LIBS} huebase_test_support huebase_util_ui
+                                              Qt6::Widgets GTest::gtest Qt6::Test)
         set_target_properties(${name} PROPERTIES AUTOMOC ON)
     elseif(ARG_QT)
         target_link_libraries(${name} PRIVATE ${ARG_LIBS} huebase_qt_test_main Qt6::Test)

@@ -5,6 +5,7 @@
 #include "host/automation_notifier.h"
 #include "host/command_notifier.h"
 #include "host/mi_lut.h"
+#include "util/guarded_application.h"
 #include "util/messages.h"
 #include "util/program_exit.h"
 
@@ -51,7 +52,7 @@ int main(int argc, char* argv[]) {
         return 0;
     }
 
-    QApplication app(argc, argv);
+    huebase::GuardedApplication app(argc, argv);
     QApplication::setApplicationName("Huebase");
     QApplication::setApplicationDisplayName("Huebase");
     QApplication::setApplicationVersion(HUEBASE_VERSION);

@@ -11,6 +11,9 @@
 namespace huebase {
 
 namespace {
+// The shown range is 256 slices wide; one more slice at either end may meet it.
+constexpr double kShownSlices = 258.0;
+
 std::optional<LutNode> nodeOf(const LutRecord& record) {
     try {
         return toNode(record);
@@ -49,7 +52,13 @@ std::vector<BarSlice> barSlices(const LutRecords& lut, float bound1, float bound
         const double count = std::nearbyint(static_cast<double>(span) / width);
         const double first = std::max(0.0, std::floor((shownLow - start) / width));
         const double last = std::min(count, std::floor((shownHigh - start) / width));
-        for (double k = first; k <= last; ++k) {
+        if (!(first <= last))
+            continue;
+        // Counted in integers: past 2^53 a double no longer changes by 1, and
+        // the shown range never holds more than kShownSlices slices.
+        const auto extra = static_cast<std::int64_t>(std::min(last - first, kShownSlices));
+        for (std::int64_t j = 0; j <= extra; ++j) {
+            const double k = first + static_cast<double>(j);
             const float t = static_cast<float>(k) * dt;
             const ColorValue color =
                 BlendColor(low->color, high->color, rampWeight(low->method, t));

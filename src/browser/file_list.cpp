@@ -17,7 +17,7 @@ void FileList::setPath(const QString& path) {
     clear();
     const QDir dir(path);
     addItems(
-        dir.entryList({pattern_}, QDir::Files | QDir::Readable, QDir::Name | QDir::IgnoreCase));
+        dir.entryList({pattern_}, QDir::Files, QDir::Name | QDir::IgnoreCase));
     setCurrentRow(-1);
 }
 

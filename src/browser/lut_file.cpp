@@ -3,21 +3,70 @@
 #include "util/comma_reader.h"
 #include "util/messages.h"
 #include "util/misc_files.h"
+#include "util/text_file.h"
 #include "util/utf8_path.h"
 #include "util/vb_error.h"
 #include "util/vb_numeric.h"
 
+#include <algorithm>
+#include <array>
+#include <cctype>
 #include <cstdint>
 #include <fstream>
 #include <optional>
+#include <set>
 
 namespace huebase::LutFile {
 
 namespace {
 constexpr std::int16_t kMaxRecords = 32767;
 
-void reportLoadError(const VbError& error) {
-    showMessage(error.message(), "LoadLut", MessageIcon::None, MessageButtons::Ok);
+// Shows each message once per file: a file of thousands of bad records must
+// not open thousands of boxes.
+class LoadErrors {
+public:
+    void report(const VbError& error) {
+        if (shown_.insert(error.message()).second)
+            showMessage(error.message(), "LoadLut", MessageIcon::None, MessageButtons::Ok);
+    }
+
+private:
+    std::set<std::string> shown_;
+};
+
+bool isTwoDigits(std::string_view piece) {
+    return piece.size() == 2 && std::isdigit(static_cast<unsigned char>(piece[0])) &&
+           std::isdigit(static_cast<unsigned char>(piece[1]));
+}
+
+// The line's eight pieces joined in pairs, or nothing when it is no
+// decimal-comma record.
+std::optional<std::string> joinedRecord(std::string_view line) {
+    constexpr std::size_t kPieces = 8;
+    std::array<std::string_view, kPieces> pieces;
+    std::size_t count = 0;
+    std::size_t start = 0;
+    for (;;) {
+        const std::size_t comma = line.find(',', start);
+        if (count == kPieces)
+            return std::nullopt;
+        pieces[count++] =
+            line.substr(start, comma == std::string_view::npos ? comma : comma - start);
+        if (comma == std::string_view::npos)
+            break;
+        start = comma + 1;
+    }
+    if (count != kPieces)
+        return std::nullopt;
+    std::string joined;
+    for (std::size_t i = 0; i < kPieces; i += 2) {
+        if (!isTwoDigits(pieces[i + 1]))
+            return std::nullopt;
+        if (i > 0)
+            joined += ',';
+        joined.append(pieces[i]).append(".").append(pieces[i + 1]);
+    }
+    return joined;
 }
 
 // The table is resized only when the count is a usable record count; the
@@ -95,12 +144,37 @@ SaveResult LutSaveAs(const std::string& path, const LutTable& table, ColorValue 
     return SaveResult::Failed;
 }
 
+std::string joinDecimalCommaRecords(std::string_view text) {
+    std::string result;
+    result.reserve(text.size());
+    bool header = true;
+    std::size_t start = 0;
+    while (start < text.size()) {
+        const std::size_t end = std::min(text.find_first_of("\r\n", start), text.size());
+        std::size_t next = end;
+        if (next < text.size())
+            next += text.compare(next, 2, "\r\n") == 0 ? 2 : 1;
+        const std::string_view line = text.substr(start, end - start);
+        const std::optional<std::string> joined = header ? std::nullopt : joinedRecord(line);
+        if (joined)
+            result.append(*joined);
+        else
+            result.append(line);
+        result.append(text.substr(end, next - end));
+        header = false;
+        start = next;
+    }
+    return result;
+}
+
 void LoadLut(const std::string& path, LutRecords& lut, ColorValue& noDataColor) {
     if (path.empty())
         return;
+    LoadErrors errors;
+    const auto reportLoadError = [&errors](const VbError& error) { errors.report(error); };
     std::optional<CommaReader> reader;
     try {
-        reader.emplace(CommaReader::fromFile(path));
+        reader.emplace(joinDecimalCommaRecords(readTextFile(path)));
     } catch (const VbError& error) {
         reportLoadError(error);
         return;
@@ -146,6 +220,13 @@ void LoadLut(const std::string& path, LutRecords& lut, ColorValue& noDataColor) 
         } catch (const VbError& error) {
             reportLoadError(error);
         }
+    }
+
+    try {
+        std::for_each(lut.begin(), lut.end(), checkRanges);
+    } catch (const VbError& error) {
+        reportLoadError(error);
+        lut.clear();
     }
 }
 

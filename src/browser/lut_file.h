@@ -42,6 +42,14 @@ enum class SaveResult { Saved, Cancelled, Failed };
 SaveResult LutSaveAs(const std::string& path, const LutTable& table, ColorValue noDataColor,
                      char decimalSeparator = localeDecimalSeparator());
 
+// The file's text with every record line written under a decimal-comma
+// locale put back into four fields: a line after the first that splits at
+// its commas into eight pieces whose 2nd, 4th, 6th and 8th are exactly two
+// digits has those pieces joined to the piece before them with a point
+// ("100,00,0,00,255,00,200,00" reads as "100.00,0.00,255.00,200.00"). Every
+// other line, and every line end, stays as it is.
+std::string joinDecimalCommaRecords(std::string_view text);
+
 // Reads a .lut file into the table and the no-data colour, as a colour bar
 // row does. An empty path reads nothing and leaves both as they were.
 // Otherwise the header gives the no-data colour and the count n, the table is
@@ -52,7 +60,11 @@ SaveResult LutSaveAs(const std::string& path, const LutTable& table, ColorValue 
 // step: a count below 1 or above 32,767 (error 9 or 6) keeps the previous
 // table, records beyond n are dropped (error 9 each), a record counter past
 // 32,767 is error 6. A file that cannot be opened shows its one error and
-// leaves the table and colour as they were.
+// leaves the table and colour as they were. Record lines written under a
+// decimal-comma locale are joined first (joinDecimalCommaRecords). The same
+// message is shown once per file, however many records raise it, and a
+// number out of a record's range (checkRanges) empties the table after its
+// message, so no colour the program cannot paint reaches a bar or the editor.
 void LoadLut(const std::string& path, LutRecords& lut, ColorValue& noDataColor);
 
 } // namespace huebase::LutFile

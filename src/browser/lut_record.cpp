@@ -22,13 +22,40 @@ LutRecords toRecords(const LutTable& table) {
     return records;
 }
 
-LutNode toNode(const LutRecord& record) {
-    const std::int32_t method = toInt32(record[FieldMethod].toNumber());
+namespace {
+constexpr ColorValue kLastColor = 0xFFFFFF;
+
+std::uint8_t methodOf(double field) {
+    const std::int32_t method = toInt32(field);
     if (method < 0 || method > 255)
         throw VbError(VbError::Overflow);
-    return {static_cast<float>(record[FieldValue].toNumber()), static_cast<std::uint8_t>(method),
-            toInt32(record[FieldColor].toNumber()),
-            static_cast<float>(record[FieldUpper].toNumber())};
+    return static_cast<std::uint8_t>(method);
+}
+
+// Colours beyond 24 bits cannot be split into channels; they would fail
+// later, wherever the table is painted or blended.
+ColorValue colorOf(double field) {
+    const ColorValue color = toInt32(field);
+    if (color < 0 || color > kLastColor)
+        throw VbError(VbError::Overflow);
+    return color;
+}
+} // namespace
+
+LutNode toNode(const LutRecord& record) {
+    return {toSingle(record[FieldValue].toNumber()), methodOf(record[FieldMethod].toNumber()),
+            colorOf(record[FieldColor].toNumber()), toSingle(record[FieldUpper].toNumber())};
+}
+
+void checkRanges(const LutRecord& record) {
+    if (record[FieldValue].isNumber())
+        toSingle(record[FieldValue].toNumber());
+    if (record[FieldMethod].isNumber())
+        methodOf(record[FieldMethod].toNumber());
+    if (record[FieldColor].isNumber())
+        colorOf(record[FieldColor].toNumber());
+    if (record[FieldUpper].isNumber())
+        toSingle(record[FieldUpper].toNumber());
 }
 
 LutTable toTable(const LutRecords& records) {

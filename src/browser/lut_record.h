@@ -23,9 +23,14 @@ LutRecords toRecords(const LutTable& table);
 
 // The record's fields converted the way the runtime converts them: value and
 // upper limit to 32-bit floats, method and colour rounded half to even. An
-// empty field is 0; a text that is no number is error 13 and a number outside
-// the method's 8-bit or the colour's 32-bit range is error 6.
+// empty field is 0; a text that is no number is error 13, and a number outside
+// the float range, the method's 8-bit range or the colours 0..16777215 is
+// error 6.
 LutNode toNode(const LutRecord& record);
+
+// Error 6 (Overflow) when a numeric field of the record is out of the range
+// toNode accepts; texts and empty fields are left for toNode to judge.
+void checkRanges(const LutRecord& record);
 LutTable toTable(const LutRecords& records);
 
 // Field 1 of the record as a number (error 13 for a text that is no number).

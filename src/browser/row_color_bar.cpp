@@ -47,24 +47,36 @@ void RowColorBar::resizeEvent(QResizeEvent* event) {
 // it holds, so later slices win as they do when the boxes are painted in
 // order.
 void RowColorBar::render() {
-    stale_ = false;
     const int width = std::max(1, this->width());
-    columns_ = QImage(width, 1, QImage::Format_RGB32);
-    columns_.fill(palette().color(QPalette::Base));
+    QImage columns(width, 1, QImage::Format_RGB32);
+    columns.fill(palette().color(QPalette::Base));
     const auto scale = model_.barScale();
-    if (!scale || scale->first == scale->second)
+    if (scale && scale->first != scale->second)
+        paintSlices(columns, scale->first, scale->second);
+    // Only a finished image is kept: should painting fail, the next paint
+    // tries again rather than show half a bar.
+    columns_ = columns;
+    stale_ = false;
+}
+
+void RowColorBar::paintSlices(QImage& columns, double left, double right) const {
+    const int width = columns.width();
+    const double perPixel = (right - left) / width;
+    if (!std::isfinite(perPixel))
         return;
-    const double left = scale->first;
-    const double perPixel = (double(scale->second) - left) / width;
-    auto* line = reinterpret_cast<QRgb*>(columns_.scanLine(0));
+    auto* line = reinterpret_cast<QRgb*>(columns.scanLine(0));
     for (const BarSlice& slice : model_.barSlices()) {
-        // Columns c whose centre left + (c + 0.5) * perPixel lies in [x0, x1).
+        // Columns c whose centre left + (c + 0.5) * perPixel lies in [x0, x1),
+        // clamped before they become integers.
         double from = (slice.x0 - left) / perPixel - 0.5;
         double to = (slice.x1 - left) / perPixel - 0.5;
         if (perPixel < 0)
             std::swap(from, to);
-        const int first = std::max(0, static_cast<int>(std::ceil(from)));
-        const int last = std::min(width - 1, static_cast<int>(std::ceil(to)) - 1);
+        if (!(from < width && to > 0))
+            continue;
+        const int first = std::max(0, static_cast<int>(std::ceil(std::max(from, -1.0))));
+        const int last =
+            std::min(width - 1, static_cast<int>(std::ceil(std::min(to, double(width)))) - 1);
         const QRgb color = toRgb(slice.color);
         for (int c = first; c <= last; ++c)
             line[c] = color;

@@ -31,6 +31,7 @@ protected:
 
 private:
     void render();
+    void paintSlices(QImage& columns, double left, double right) const;
 
     const ColorBarRowModel& model_;
     QImage columns_; // one pixel high, one pixel per column

@@ -2,13 +2,14 @@
 
 #include "util/variant.h"
 #include "util/vb_error.h"
+#include "util/vb_numeric.h"
 
 #include <algorithm>
 
 namespace huebase {
 
 DistributionRow DistributionRow::fromFields(const Variant& value, const Variant& count) {
-    return {static_cast<float>(value.toNumber()), count.toNumber()};
+    return {toSingle(value.toNumber()), count.toNumber()};
 }
 
 void Distribution::assignOrdered(std::vector<DistributionRow> rows) {

@@ -3,6 +3,9 @@
 #include "editor/numeric_text.h"
 #include "util/vb_format.h"
 
+#include <algorithm>
+#include <limits>
+
 namespace huebase {
 
 std::optional<ValidatedValue> validateRowValue(std::string_view text, float lower, float upper,
@@ -13,7 +16,11 @@ std::optional<ValidatedValue> validateRowValue(std::string_view text, float lowe
     ValidatedValue result{std::string(text), *typed};
     // Each replaced text is read back, so the stored value is exactly what
     // the box shows.
+    // A bound at or near the end of the float range gives a replacement
+    // beyond it; the box then shows the largest float of that sign.
     const auto replace = [&](float value) {
+        constexpr float kLargest = std::numeric_limits<float>::max();
+        value = std::clamp(value, -kLargest, kLargest);
         result.text = floatText(value, localeSeparator);
         result.value = NumericText::toSingle(result.text, localeSeparator).value_or(value);
     };

@@ -23,7 +23,9 @@ struct ValidatedValue {
 // lower + 1. The upper test comes first, so with bounds closer than two
 // units the value can end above the upper bound; that order is kept on
 // purpose. Replaced texts are written in the shortest float form with the
-// given separator. Nothing (no change at all) when the text is not numeric.
+// given separator; a replacement beyond the float range (an infinite or
+// extreme bound) is clamped to the largest float of its sign. Nothing (no
+// change at all) when the text is not numeric.
 std::optional<ValidatedValue> validateRowValue(std::string_view text, float lower, float upper,
                                                char localeSeparator = localeDecimalSeparator());
 

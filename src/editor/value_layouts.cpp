@@ -1,12 +1,13 @@
 #include "editor/value_layouts.h"
 
 #include "util/vb_error.h"
+#include "util/vb_numeric.h"
 
 namespace huebase::ValueLayouts {
 
 namespace {
 float single(const Variant& field) {
-    return static_cast<float>(field.toNumber());
+    return toSingle(field.toNumber());
 }
 } // namespace
 

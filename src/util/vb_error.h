@@ -1,5 +1,6 @@
 #pragma once
 
+#include <exception>
 #include <stdexcept>
 #include <string>
 
@@ -13,9 +14,11 @@ public:
     enum Number : int {
         InvalidCall = 5,
         Overflow = 6,
+        OutOfMemory = 7,
         SubscriptOutOfRange = 9,
         DivisionByZero = 11,
         TypeMismatch = 13,
+        InternalError = 51,
         BadFileNameOrNumber = 52,
         FileNotFound = 53,
         DeviceIoError = 57,
@@ -38,6 +41,11 @@ public:
     // The standard description of a number ("Application-defined or
     // object-defined error" for numbers without one).
     static std::string describe(int number);
+
+    // The error an exception stands for: a VbError as it is, memory
+    // exhaustion as error 7 and anything else as error 51, "Internal error",
+    // so every failure reaches the user in the same form.
+    static VbError from(std::exception_ptr failure);
 
 private:
     int number_;

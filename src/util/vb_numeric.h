@@ -14,6 +14,10 @@ double roundHalfEven(double x) noexcept;
 std::int16_t toInt16(double x);
 std::int32_t toInt32(double x);
 
+// A double as a 32-bit float, rounded to nearest; a value beyond the float
+// range (or NaN) is error 6 (Overflow) instead of an infinity.
+float toSingle(double x);
+
 // Range-checked integer narrowing (no rounding involved).
 std::int16_t checkedInt16(std::int64_t x);
 std::int32_t checkedInt32(std::int64_t x);

@@ -157,19 +157,31 @@ TEST_F(RowTest, TheBarIsPaintedInSlicesOfA256thOfTheRangeOnEachNodesRamp) {
               (std::vector<BarSlice>{{0.0f, 100.0f, kRed}, {100.0f, 300.0f, kBlue}}));
 }
 
-TEST_F(RowTest, ANodeFarOutsideTheShownRangeCostsNoSlices) {
-    row.setLut(toRecords({{-1.0e7f, MethodLin, 0, 5.0f},
-                          {5.0f, MethodLin, kWhite, 1.0e7f},
-                          {1.0e7f, MethodLin, 0, 1.0e7f}}));
-    row.setMin("0");
-    row.setMax("10");
-    const std::vector<BarSlice> slices = row.barSlices();
-    EXPECT_LE(slices.size(), 260u);
-    EXPECT_GE(slices.size(), 256u);
-    for (const BarSlice& slice : slices) {
-        EXPECT_LE(slice.x0, 10.0f);
-        EXPECT_GE(slice.x1, 0.0f);
+TEST_F(RowTest, NodesFarOutsideTheShownRangeOrOutOfOrderCostOnlyTheShownSlices) {
+    const std::vector<LutTable> tables = {
+        {{-1.0e7f, MethodLin, 0, 5.0f},
+         {5.0f, MethodLin, kWhite, 1.0e7f},
+         {1.0e7f, MethodLin, 0, 1.0e7f}},
+        // Descending back far below the range: slice numbers pass 2^53.
+        {{0.0f, MethodLin, 0, 1.0f},
+         {1.0f, MethodLin, kWhite, -1.0e15f},
+         {-1.0e15f, MethodLin, kRed, 1.0f},
+         {1.0f, MethodLin, kBlue, 1.0f}},
+        {{-3.4e38f, MethodLin, 0, 3.4e38f}, {3.4e38f, MethodLin, kWhite, 3.4e38f}},
+    };
+    for (const LutTable& table : tables) {
+        row.setLut(toRecords(table));
+        row.setMin("0");
+        row.setMax("10");
+        const std::vector<BarSlice> slices = row.barSlices();
+        EXPECT_LE(slices.size(), 2u * 260u);
+        EXPECT_GE(slices.size(), &table == &tables.front() ? 256u : 1u);
+        for (const BarSlice& slice : slices) {
+            EXPECT_LE(slice.x0, 10.0f);
+            EXPECT_GE(slice.x1, 0.0f);
+        }
     }
+    EXPECT_TRUE(services.messages().empty());
 }
 
 TEST(LutSelection, TheHandedOverTableIsCutToTheDataWithRampColouredEnds) {

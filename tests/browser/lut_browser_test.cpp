@@ -20,7 +20,10 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <filesystem>
+#include <fstream>
+#include <iterator>
 
 namespace huebase {
 namespace {
@@ -240,6 +243,67 @@ TEST_F(BrowserTest, TheScrollBarsMoveTheRowsAndFollowTheWindowsSize) {
     horizontal.setValue(horizontal.maximum());
     EXPECT_EQ(rows.x(), -horizontal.maximum());
     EXPECT_EQ(vertical.maximum(), rows.height() - view.height());
+}
+
+TEST_F(BrowserTest, EveryFileOfABrokenLibraryGetsARowWithItsBarOrANoteInEveryMode) {
+    std::string manyRecords = "0,32767\r\n";
+    for (int i = 0; i < 32768; ++i)
+        manyRecords += std::to_string(i) + ".00,0.00,255.00," + std::to_string(i + 1) + ".00\r\n";
+    std::string garbage;
+    for (int i = 0; i < 4096; ++i)
+        garbage += static_cast<char>((i * 7919) % 256);
+    const struct {
+        const char* name;
+        std::string bytes;
+        bool drawn; // the bar shows a table; otherwise the row notes why not
+    } files[] = {
+        {"negative colour", "0,2\r\n100.00,0.00,-1.00,200.00\r\n200.00,0.00,0.00,200.00\r\n",
+         false},
+        {"colour 2^24", "0,2\r\n0.00,0.00,16777216.00,1.00\r\n1.00,0.00,0.00,1.00\r\n", false},
+        {"not ascending", LutFile::text(tableAt({0, 1, -1e15f, 1}), 0, '.'), true},
+        {"float ends", LutFile::text(tableAt({-3.4e38f, 0, 3.4e38f}), 0, '.'), true},
+        {"beyond float", "0,2\r\n0.00,0.00,0.00,1e39\r\n1e39,0.00,0.00,1e39\r\n", false},
+        {"32768 records", manyRecords, true},
+        {"count 40000", "0,40000\r\n0.00,0.00,0.00,1.00\r\n1.00,0.00,255.00,1.00\r\n", false},
+        {"decimal comma", LutFile::text(tableAt({-5, 5}), 0, ','), true},
+        {"empty", "", false},
+        {"garbage", garbage, false},
+        {"long line", "0,1\r\n" + std::string(100000, '7') + "\r\n", false},
+    };
+    std::filesystem::create_directories(library());
+    for (const auto& file : files)
+        std::ofstream(library() + "/" + file.name + ".lut", std::ios::binary) << file.bytes;
+    std::filesystem::create_directories(library() + "/x.lut");
+    browser.setDataMin(-10);
+    browser.setDataMax(10);
+    open();
+    browser.show();
+    ASSERT_EQ(browser.rows().size(), std::size(files)) << "a folder is no colour table";
+    for (int mode = 1; mode <= 3; ++mode) {
+        QTest::mouseClick(&option(mode), Qt::LeftButton);
+        browser.grab();
+        QCoreApplication::processEvents();
+        for (const ColorBarRow* row : browser.rows()) {
+            SCOPED_TRACE(row->FilePath().toStdString() + " in mode " + std::to_string(mode));
+            const auto* file = std::find_if(std::begin(files), std::end(files), [&](const auto& f) {
+                return row->FilePath().endsWith(QString(f.name) + ".lut");
+            });
+            ASSERT_NE(file, std::end(files));
+            if (!file->drawn)
+                EXPECT_FALSE(row->notes().isEmpty());
+            else if (mode != WarpToFitData + 1 || row->notes().isEmpty())
+                EXPECT_FALSE(row->lut().empty());
+        }
+    }
+    EXPECT_TRUE(services.messages().empty()) << "rows nobody chose keep their messages";
+    for (const auto& file : files) {
+        clickFile(QString(file.name) + ".lut");
+        browser.grab();
+        QCoreApplication::processEvents();
+    }
+    EXPECT_LE(services.messages().size(), 2 * std::size(files)) << "one box per cause";
+    for (const MessageRequest& message : services.messages())
+        EXPECT_TRUE(message.text.starts_with("Error: ")) << message.text;
 }
 
 } // namespace

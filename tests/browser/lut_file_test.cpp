@@ -103,7 +103,8 @@ Loaded load(const std::string& path) {
     return loaded;
 }
 
-TEST(LutReading, FilesReadAsTheirFieldsWithEachErrorShownAndSkipped) {
+TEST(LutReading, FilesReadAsTheirFieldsWithEachDistinctErrorShownOnce) {
+    const std::string e6 = "Error: 6. Overflow";
     const std::string e62 = "Error: 62. Input past end of file";
     const std::string e9 = "Error: 9. Subscript out of range";
     struct Case {
@@ -120,7 +121,19 @@ TEST(LutReading, FilesReadAsTheirFieldsWithEachErrorShownAndSkipped) {
          "'12.50' 0 'red, really' 20"},
         {"fewer", "5,3\r\n1.00,0.00,2.00,3.00\r\n", {}, 5, "1 0 2 3 | - - - - | - - - -"},
         {"more", "7,2\r\n0.00,0.00,1.00,10.00\r\n10.00,0.00,2.00,20.00\r\n20.00,0.00,3.00,30.00\r\n"
-         "30.00,0.00,4.00,30.00\r\n", {e9, e9}, 7, "0 0 1 10 | 10 0 2 20"},
+         "30.00,0.00,4.00,30.00\r\n", {e9}, 7, "0 0 1 10 | 10 0 2 20"},
+        // A ramp saved under a decimal-comma locale reads back whole; five to
+        // seven pieces are no such record.
+        {"decimal comma", LutFile::text(kThree, kWhite, ','), {}, kWhite,
+         "0 0 0 100 | 100 3 16777215 200 | 200 0 16711680 200"},
+        {"seven pieces", "0,2\r\n12,50,0,00,255,00,7\r\n", {e62}, 0, "12 50 0 0 | 255 0 7 -"},
+        {"count 40000", "1,40000\r\n0.00,0.00,0.00,0.00\r\n", {e6}, 1, "0 0 0 0 | 5 0 88 5"},
+        // Numbers no node can hold empty the table after one message.
+        {"negative colour", "0,2\r\n100.00,0.00,-1.00,200.00\r\n200.00,0.00,0.00,200.00\r\n",
+         {e6}, 0, ""},
+        {"colour 2^24", "0,1\r\n0.00,0.00,16777216.00,0.00\r\n", {e6}, 0, ""},
+        {"method 256", "0,1\r\n0.00,256.00,0.00,0.00\r\n", {e6}, 0, ""},
+        {"beyond float", "0,2\r\n-1e39,0.00,0.00,0.00\r\n0,0,0,3.5e38\r\n", {e6}, 0, ""},
         {"empty", "", {e62, e9}, 0, kOldShape},
         {"short last", "0,2\r\n0.00,0.00,1.00,10.00\r\n10.00,0.00\r\n", {e62}, 0,
          "0 0 1 10 | 10 0 - -"},
@@ -155,7 +168,7 @@ TEST(LutReading, TheRecordCounterOverflowsPast32767Records) {
         bytes += std::to_string(i) + ".00,0.00,0.00,0.00\r\n";
     ScratchFolder folder;
     const Loaded loaded = load(folder.write("big.lut", bytes));
-    EXPECT_EQ(loaded.texts, std::vector<std::string>(2, "Error: 6. Overflow"));
+    EXPECT_EQ(loaded.texts, std::vector<std::string>{"Error: 6. Overflow"});
     // 32,767 records: the counter stuck at the last, which the extra record took.
     EXPECT_TRUE(loaded.shape.ends_with("| 32765 0 0 0 | 32767 0 0 0"));
 }

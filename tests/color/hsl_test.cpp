@@ -22,11 +22,19 @@ TEST(Hsl, ConvertsBothWaysWithTheClassicRounding) {
     const struct {
         ColorValue color;
         HSLColor hsl;
-    } toHsl[] = {{rgb(0, 0, 0), {160, 0, 0}},         {rgb(255, 255, 255), {160, 0, 240}},
-                 {rgb(128, 128, 128), {160, 0, 121}}, {rgb(255, 0, 0), {0, 240, 120}},
-                 {rgb(0, 255, 0), {80, 240, 120}},    {rgb(0, 0, 255), {160, 240, 120}},
-                 {rgb(255, 128, 0), {20, 240, 120}},  {rgb(10, 20, 30), {140, 120, 19}},
-                 {rgb(255, 0, 1), {240, 240, 120}}};
+    } toHsl[] = {{rgb(0, 0, 0), {160, 0, 0}},
+                 {rgb(255, 255, 255), {160, 0, 240}},
+                 {rgb(128, 128, 128), {160, 0, 121}},
+                 {rgb(255, 0, 0), {0, 240, 120}},
+                 {rgb(0, 255, 0), {80, 240, 120}},
+                 {rgb(0, 0, 255), {160, 240, 120}},
+                 {rgb(255, 128, 0), {20, 240, 120}},
+                 {rgb(10, 20, 30), {140, 120, 19}},
+                 {rgb(255, 0, 1), {240, 240, 120}},
+                 // Dark colours take the lower saturation formula; its rounding
+                 // term decides these.
+                 {rgb(1, 6, 5), {112, 172, 4}},
+                 {rgb(1, 63, 20), {92, 233, 31}}};
     for (const auto& row : toHsl)
         EXPECT_EQ(RGBToHSL(row.color), row.hsl) << std::hex << row.color;
     EXPECT_EQ(HSLToRGB({0, 0, 240}), 0xFFFFFF);

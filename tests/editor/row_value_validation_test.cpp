@@ -3,6 +3,8 @@
 
 #include <gtest/gtest.h>
 
+#include <limits>
+
 namespace huebase {
 namespace {
 
@@ -26,6 +28,8 @@ TEST(NumericText, RefusesTextThatIsNotANumber) {
 }
 
 TEST(RowValueValidation, KeepsValuesInsideAndMovesTheRestOneUnitInsideUpperTestFirst) {
+    constexpr float kInf = std::numeric_limits<float>::infinity();
+    constexpr float kMax = std::numeric_limits<float>::max();
     const struct {
         const char* text;
         float lower, upper;
@@ -42,6 +46,11 @@ TEST(RowValueValidation, KeepsValuesInsideAndMovesTheRestOneUnitInsideUpperTestF
         {"20", 0, 10.5f, ',', "9,5", 9.5f},
         // Seven significant digits: the stored value is what the box shows.
         {"200000000", 0, 123456789.0f, '.', "1.234568E+08", 123456800.0f},
+        // Infinite and extreme bounds clamp to the largest float, never raise.
+        {"5", kInf, kInf, '.', "3.402823E+38", 3.402823e38f},
+        {"5", -kInf, -kInf, '.', "-3.402823E+38", -3.402823e38f},
+        {"5", -kInf, kInf, '.', "5", 5.0f},
+        {"3e38", kMax, kMax, '.', "3.402823E+38", 3.402823e38f},
     };
     for (const auto& row : rows)
         EXPECT_EQ(validateRowValue(row.text, row.lower, row.upper, row.separator),

@@ -70,11 +70,20 @@ TEST_F(MILutTest, StartHandsTheHostsDistributionToTheControlWithoutShowingAWindo
 }
 
 TEST_F(MILutTest, ValuesTheEditorCannotTakeAreShownAndEndTheProgram) {
-    folder_.write("col.tmp", "1,2\n\"high\",3\n");
-    EXPECT_FALSE(window_.loadValues());
-    ASSERT_EQ(services_.messages().size(), 1u);
-    EXPECT_EQ(services_.messages()[0].text, "Error: 13. Type mismatch");
-    EXPECT_EQ(services_.exitCodes(), std::vector<int>{HostSession::kStartFailedExitCode});
+    const struct {
+        const char* values;
+        const char* text;
+    } cases[] = {{"1,2\n\"high\",3\n", "Error: 13. Type mismatch"},
+                 {"1,2\n1e39,3\n", "Error: 6. Overflow"}}; // beyond a 32-bit float
+    for (const auto& c : cases) {
+        folder_.write("col.tmp", c.values);
+        EXPECT_FALSE(window_.loadValues());
+        ASSERT_FALSE(services_.messages().empty());
+        EXPECT_EQ(services_.messages().back().text, c.text);
+    }
+    EXPECT_EQ(services_.messages().size(), std::size(cases));
+    EXPECT_EQ(services_.exitCodes(),
+              std::vector<int>(std::size(cases), HostSession::kStartFailedExitCode));
 }
 
 TEST_F(MILutTest, ItsOwnOkEndsTheProgramWithoutTouchingEitherFile) {

@@ -1,5 +1,8 @@
-// Runs GoogleTest inside a QApplication. Widget tests use the offscreen
+// Runs GoogleTest inside the program's own application object, so events
+// are delivered as the program delivers them. Widget tests use the offscreen
 // platform unless the test binary needs a real X server.
+#include "util/guarded_application.h"
+
 #include <QApplication>
 
 #include <gtest/gtest.h>
@@ -14,6 +17,6 @@ int main(int argc, char** argv) {
     if (!qEnvironmentVariableIsSet("QT_QPA_PLATFORM"))
         qputenv("QT_QPA_PLATFORM", "offscreen");
 #endif
-    QApplication app(argc, argv);
+    huebase::GuardedApplication app(argc, argv);
     return RUN_ALL_TESTS();
 }
