@@ -33,13 +33,14 @@ QLineEdit* textBox(const char* name, const QString& accessibleName, QWidget* par
     return box;
 }
 
-// Keeps the messages raised while it lives instead of showing them.
+// Keeps the messages raised while it lives as the row's notes, and shows
+// them as well when the row is not quiet.
 class MessageKeeper {
 public:
-    explicit MessageKeeper(QStringList& kept)
-        : previous_(setMessageResponder([&kept](const MessageRequest& request) {
+    MessageKeeper(QStringList& kept, bool show)
+        : previous_(setMessageResponder([&kept, show, this](const MessageRequest& request) {
               kept << QString::fromStdString(request.text);
-              return MessageAnswer::Ok;
+              return show && previous_ ? previous_(request) : MessageAnswer::Ok;
           })) {}
     ~MessageKeeper() { setMessageResponder(std::move(previous_)); }
     MessageKeeper(const MessageKeeper&) = delete;
@@ -125,10 +126,8 @@ ColorBarRow::~ColorBarRow() = default;
 
 template <typename Change> void ColorBarRow::run(Change&& change) {
     notes_.clear();
-    if (quiet_) {
-        const MessageKeeper keeper(notes_);
-        change();
-    } else {
+    {
+        const MessageKeeper keeper(notes_, !quiet_);
         change();
     }
     Refresh();

@@ -24,11 +24,11 @@ class RowColorBar;
 // (Line1). The table, its fit and its texts live in a ColorBarRowModel; the
 // properties here forward to it and show the result.
 //
-// A quiet row keeps the messages of its own reading and fitting (read
-// errors, refused clips) instead of showing them: it notes them beside its
-// name, with the full texts as the note's tooltip. The browser keeps every
-// row quiet except the one the user chose, so a gallery of many files never
-// raises a cascade of message boxes.
+// A row notes the messages of its own reading and fitting (read errors,
+// refused clips) beside its name, with the full texts as the note's tooltip.
+// A quiet row shows them only there; the browser keeps every row quiet
+// except the one the user chose, so a gallery of many files never raises a
+// cascade of message boxes.
 class ColorBarRow : public QWidget {
     Q_OBJECT
     Q_PROPERTY(int ApplyOptions READ ApplyOptions WRITE setApplyOptionsProperty)
@@ -78,7 +78,7 @@ public:
 
     bool isQuiet() const noexcept { return quiet_; }
     void setQuiet(bool quiet) noexcept { quiet_ = quiet; }
-    // The messages a quiet row kept from its last load or fit.
+    // The messages of the row's last load or fit.
     const QStringList& notes() const noexcept { return notes_; }
 
     // What a click on SelectBtn does: raises Selected with the table cut to
@@ -90,7 +90,7 @@ signals:
 
 private:
     void setApplyOptionsProperty(int mode) { setApplyOptions(static_cast<std::int16_t>(mode)); }
-    // Runs a load or fit; a quiet row keeps its messages as notes.
+    // Runs a load or fit, keeping its messages as notes.
     template <typename Change> void run(Change&& change);
 
     ColorBarRowModel model_;
