@@ -1,9 +1,23 @@
 #!/usr/bin/env bash
-# Installs what is missing, builds, and runs every test; the tests that need
-# a real X server run on Xvfb, the others on Qt's offscreen platform.
+# Installs what is missing, builds, and runs every test twice: in the normal
+# build, and in the AddressSanitizer + UndefinedBehaviorSanitizer build
+# (preset "sanitize"), where any finding fails the test that raised it. The
+# tests that need a real X server run on Xvfb, the others on Qt's offscreen
+# platform.
 set -euo pipefail
 cd "$(dirname "$0")/.."
+root=$PWD
 scripts/install-deps.sh
+
+run_suite() {
+    (cd "$1" && xvfb-run -a -s "-screen 0 1280x1024x24" ctest --output-on-failure -j2 --timeout 600)
+}
+
 scripts/build.sh
-cd build
-xvfb-run -a -s "-screen 0 1280x1024x24" ctest --output-on-failure -j2 --timeout 300
+run_suite build
+
+scripts/build.sh sanitize
+export ASAN_OPTIONS=detect_leaks=1:strict_string_checks=1:detect_stack_use_after_return=1
+export LSAN_OPTIONS=suppressions=$root/tests/sanitize/lsan.supp:print_suppressions=0
+export UBSAN_OPTIONS=print_stacktrace=1:halt_on_error=1
+run_suite build-sanitize

@@ -290,10 +290,11 @@ TEST_F(BrowserTest, EveryFileOfABrokenLibraryGetsARowWithItsBarOrANoteInEveryMod
                 return row->FilePath().endsWith(QString(f.name) + ".lut");
             });
             ASSERT_NE(file, std::end(files));
-            if (!file->drawn)
+            if (!file->drawn) {
                 EXPECT_FALSE(row->notes().isEmpty());
-            else if (mode != WarpToFitData + 1 || row->notes().isEmpty())
+            } else if (mode != WarpToFitData + 1 || row->notes().isEmpty()) {
                 EXPECT_FALSE(row->lut().empty());
+            }
         }
     }
     EXPECT_TRUE(services.messages().empty()) << "rows nobody chose keep their messages";
@@ -301,8 +302,9 @@ TEST_F(BrowserTest, EveryFileOfABrokenLibraryGetsARowWithItsBarOrANoteInEveryMod
         clickFile(QString(file.name) + ".lut");
         browser.grab();
         QCoreApplication::processEvents();
-        if (!file.drawn)
+        if (!file.drawn) {
             EXPECT_FALSE(browser.chosenRow()->notes().isEmpty()) << "the chosen row keeps it too";
+        }
     }
     EXPECT_LE(services.messages().size(), 2 * std::size(files)) << "one box per cause";
     for (const MessageRequest& message : services.messages())
