@@ -123,9 +123,8 @@ TEST_F(GuardTest, ATimerThatKeepsFailingIsReportedOnce) {
         throw VbError(VbError::SubscriptOutOfRange);
     });
     timer.start(5);
-    QTest::qWaitFor([&] { return ticks >= 5; }, 2000);
+    EXPECT_TRUE(QTest::qWaitFor([&] { return ticks >= 5; }, 2000));
     timer.stop();
-    EXPECT_GE(ticks, 5);
     EXPECT_EQ(texts(), std::vector<std::string>{"Error: 9. Subscript out of range"});
 }
 
