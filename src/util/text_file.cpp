@@ -23,6 +23,19 @@ namespace {
     }
     throw VbError(VbError::PathFileAccessError);
 }
+
+bool writeWhole(const fs::path& file, std::string_view text) {
+    std::ofstream out(file, std::ios::binary | std::ios::trunc);
+    out.write(text.data(), static_cast<std::streamsize>(text.size()));
+    out.close();
+    return !out.fail();
+}
+
+// Opening for update neither creates nor truncates: it only asks whether the
+// file may be written.
+bool isWritable(const fs::path& file) {
+    return std::fstream(file, std::ios::binary | std::ios::in | std::ios::out).is_open();
+}
 } // namespace
 
 std::string readTextFile(const std::string& path) {
@@ -48,6 +61,44 @@ std::string readTextFile(const std::string& path) {
     if (in.bad() || static_cast<std::size_t>(in.gcount()) != text.size())
         throw VbError(VbError::DeviceIoError);
     return text;
+}
+
+bool writeTextFile(const std::string& path, std::string_view text) {
+    try {
+        return writeWhole(pathFromUtf8(path), text);
+    } catch (...) {
+        return false;
+    }
+}
+
+bool replaceTextFile(const std::string& path, std::string_view text) {
+    std::error_code ec;
+    fs::path temporary;
+    try {
+        fs::path file = pathFromUtf8(path);
+        const bool exists = fs::exists(file, ec);
+        if (exists) {
+            file = fs::canonical(file, ec);
+            if (ec || !fs::is_regular_file(file, ec) || !isWritable(file))
+                return false;
+        }
+        temporary = file;
+        temporary += ".saving";
+        bool done = writeWhole(temporary, text);
+        if (done && exists)
+            fs::permissions(temporary, fs::status(file).permissions(), ec);
+        if (done) {
+            fs::rename(temporary, file, ec);
+            done = !ec;
+        }
+        if (!done)
+            fs::remove(temporary, ec);
+        return done;
+    } catch (...) {
+        if (!temporary.empty())
+            fs::remove(temporary, ec);
+        return false;
+    }
 }
 
 } // namespace huebase
