@@ -85,8 +85,9 @@ bool replaceTextFile(const std::string& path, std::string_view text) {
         temporary = file;
         temporary += ".saving";
         bool done = writeWhole(temporary, text);
-        if (done && exists)
-            fs::permissions(temporary, fs::status(file).permissions(), ec);
+        const fs::file_status old = exists ? fs::status(file, ec) : fs::file_status();
+        if (done && exists && !ec)
+            fs::permissions(temporary, old.permissions(), ec);
         if (done) {
             fs::rename(temporary, file, ec);
             done = !ec;
