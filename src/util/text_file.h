@@ -9,8 +9,9 @@ namespace huebase {
 // classic run-time errors, for the caller's error trap to report:
 // 53 "File not found" for a missing file, 76 "Path not found" when its folder
 // is missing, 70 "Permission denied" when access is refused, 75 "Path/File
-// access error" for an empty path, a folder or any other failure to open, and
-// 57 "Device I/O error" when reading breaks off.
+// access error" for an empty path, a folder, a FIFO or anything else that is
+// no regular file, or any other failure to open, and 57 "Device I/O error"
+// when reading breaks off. A FIFO is refused without waiting for a writer.
 std::string readTextFile(const std::string& path);
 
 // Makes text the whole content of the file: creates it, or truncates an

@@ -2,7 +2,13 @@
 
 #include "support/scratch_folder.h"
 
+#include "util/error_test_support.h"
+
 #include <gtest/gtest.h>
+
+#ifndef _WIN32
+#include <sys/stat.h>
+#endif
 
 #include <algorithm>
 #include <filesystem>
@@ -49,6 +55,16 @@ TEST(TextFileWriting, WriteTruncatesReplaceFollowsLinksAndLeavesNoTemporary) {
     EXPECT_EQ(entries, (std::vector<std::string>{"a.lut", "empty", "library", "library/link.lut",
                                                  "library/new.lut"}));
 }
+
+#ifndef _WIN32
+TEST(TextFileReading, AFifoIsRefusedWithoutWaitingForAWriter) {
+    testing::ScratchFolder folder;
+    ASSERT_EQ(mkfifo(folder.file("lut.tmp").c_str(), 0644), 0);
+    EXPECT_EQ(testing::errorNumberOf([&] { readTextFile(folder.file("lut.tmp")); }),
+              VbError::PathFileAccessError);
+    EXPECT_EQ(readTextFile(folder.write("col.tmp", "10,3\r\n")), "10,3\r\n");
+}
+#endif
 
 } // namespace
 } // namespace huebase
