@@ -4,7 +4,6 @@
 #include "util/messages.h"
 #include "util/misc_files.h"
 #include "util/text_file.h"
-#include "util/utf8_path.h"
 #include "util/vb_error.h"
 #include "util/vb_numeric.h"
 
@@ -12,7 +11,6 @@
 #include <array>
 #include <cctype>
 #include <cstdint>
-#include <fstream>
 #include <optional>
 #include <set>
 
@@ -120,25 +118,9 @@ SaveResult LutSaveAs(const std::string& path, const LutTable& table, ColorValue 
         showMessage("Overwrite " + path + " ?", "File exists ...", MessageIcon::None,
                     MessageButtons::OkCancel) == MessageAnswer::Cancel)
         return SaveResult::Cancelled;
-    MiscFiles::KillFile(path);
-
-    // Truncating rather than appending: should the old file survive the
-    // delete, it is still replaced, never extended. Each line is flushed so
-    // that a failure keeps what was written before it.
-    std::ofstream out;
-    try {
-        out.open(pathFromUtf8(path), std::ios::binary | std::ios::trunc);
-    } catch (...) {
-    }
-    const auto writeLine = [&out](std::string_view line) {
-        out.write(line.data(), static_cast<std::streamsize>(line.size()));
-        out.write(kLineEnd.data(), static_cast<std::streamsize>(kLineEnd.size()));
-        out.flush();
-        return out.good();
-    };
-    const bool written =
-        out.is_open() && writeLines(writeLine, table, noDataColor, decimalSeparator);
-    if (written)
+    // The new file is written beside the old one and renamed over it: a save
+    // that fails (a full disk, a read-only file) leaves the old ramp intact.
+    if (replaceTextFile(path, text(table, noDataColor, decimalSeparator)))
         return SaveResult::Saved;
     showMessage("Can't access: " + path, {}, MessageIcon::None, MessageButtons::Ok);
     return SaveResult::Failed;

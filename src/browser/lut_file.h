@@ -37,8 +37,10 @@ enum class SaveResult { Saved, Cancelled, Failed };
 
 // Saves the table as the editor's save button does. An existing file is only
 // replaced after "Overwrite <path> ?" (title "File exists ...", OK/Cancel) is
-// answered OK, and is never appended to. A line that cannot be written shows
-// "Can't access: <path>"; the lines written before it stay in the file.
+// answered OK, and is never appended to. The file is written whole beside
+// the target and renamed over it (replaceTextFile); when that fails (the
+// folder or the file cannot be written, the disk is full) "Can't access:
+// <path>" is shown and the old file stays as it was.
 SaveResult LutSaveAs(const std::string& path, const LutTable& table, ColorValue noDataColor,
                      char decimalSeparator = localeDecimalSeparator());
 

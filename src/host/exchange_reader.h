@@ -2,6 +2,7 @@
 
 #include "host/values_table.h"
 
+#include <cstdint>
 #include <string>
 
 namespace huebase {
@@ -19,9 +20,16 @@ namespace huebase {
 //   error 62 (Input past end of file);
 // - fields left over once every row is filled ask for a row past the table's
 //   size: error 9 (Subscript out of range).
-// Rows the file does not reach (blank lines at the end) stay Empty. File
-// errors are those of readTextFile (53 for a missing file, ...). Rows filled
-// before an error keep their fields.
+// Rows the file does not reach stay Empty. File errors are those of
+// readTextFile (53 for a missing file, ...). Rows filled before an error keep
+// their fields.
 void readExchangeTable(const std::string& path, ValuesTable& table);
+
+// The number of rows of an exchange file: its lines, as
+// MiscFiles::getFileLineNumber counts them, less the blank lines (empty or
+// only spaces and tabs) at its end, which hold no field. Sizing a table to it
+// leaves no Empty row behind the last record. File errors as readTextFile;
+// more than 32,767 rows is error 6 (Overflow).
+std::int16_t exchangeRowCount(const std::string& path);
 
 } // namespace huebase

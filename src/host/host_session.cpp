@@ -2,10 +2,10 @@
 
 #include "host/exchange_reader.h"
 #include "host/export_format.h"
-#include "host/line_appender.h"
 #include "util/messages.h"
 #include "util/misc_files.h"
 #include "util/program_exit.h"
+#include "util/text_file.h"
 #include "util/vb_numeric.h"
 
 #include <cmath>
@@ -21,6 +21,19 @@ float toSingle(const Variant& field) {
     if (std::isinf(single) && !std::isinf(number))
         throw VbError(VbError::Overflow);
     return single;
+}
+
+// The export table's row count. A file that cannot be read has no rows: the
+// reading that follows fails on it and is reported like every other export
+// table that cannot be read. Too many lines stay error 6.
+int exportRowCount(const std::string& path) {
+    try {
+        return exchangeRowCount(path);
+    } catch (const VbError& error) {
+        if (error.number() == VbError::Overflow)
+            throw;
+        return 0;
+    }
 }
 } // namespace
 
@@ -43,7 +56,7 @@ std::optional<ValuesTable> HostSession::start() {
     }
     readError_.reset();
     try {
-        sizeInputArray(MiscFiles::getFileLineNumber(path));
+        sizeInputArray(exchangeRowCount(path));
     } catch (const VbError& error) {
         readError_ = error;
     }
@@ -70,14 +83,19 @@ void HostSession::answerSteps(const ColorLookup& lookup) {
     const std::string path = lutPath();
     if (!MiscFiles::FileExists(path))
         return;
-    output_ = ValuesTable(MiscFiles::getFileLineNumber(path));
+    output_ = ValuesTable(exportRowCount(path));
     if (!GetOutPutFile(path)) {
         showMessage("Can't find export values table");
         NotifyHost(-1);
         return;
     }
+    // The whole answer is built before the file is touched, so an error while
+    // colouring the keys leaves the host's table as it was. Writing truncates:
+    // should the delete fail (a read-only folder), the file is still rewritten
+    // from its start, never appended to.
+    const std::string answer = exportText();
     MiscFiles::KillFile(path);
-    NotifyHost(writeExportTable(path) ? 0 : -1);
+    NotifyHost(writeTextFile(path, answer) ? 0 : -1);
 }
 
 void HostSession::colorInputRows(const ColorLookup& lookup) {
@@ -88,14 +106,13 @@ void HostSession::colorInputRows(const ColorLookup& lookup) {
     }
 }
 
-bool HostSession::writeExportTable(const std::string& path) {
-    LineAppender appender(path);
+std::string HostSession::exportText() {
+    std::string text;
     for (int row = 1; row <= output_.rows(); ++row) {
         const std::int32_t color = FindColorInInputArrayFromValue(output_.at(row, 1));
-        if (!appender.append(exportLine(output_.at(row, 2), color)))
-            return false;
+        (text += exportLine(output_.at(row, 2), color)) += MiscFiles::kLineEnd;
     }
-    return appender.close();
+    return text;
 }
 
 bool HostSession::GetOrderedFile(const std::string& path) {

@@ -37,9 +37,9 @@ public:
     std::string lutPath() const;
 
     // Start: without "col.tmp" the program ends at once, silently, with exit
-    // code 0. Otherwise the input values table is sized to the file's line
-    // count and filled; when that fails (more than 32,767 lines, records that
-    // do not fit the rows, an unreadable file) the message
+    // code 0. Otherwise the input values table is sized to the file's row
+    // count (exchangeRowCount: blank lines at the end are no rows) and filled; when that fails
+    // (more than 32,767 lines, records that do not fit the rows, an unreadable file) the message
     // "Error: N. description" is shown and the program ends with
     // kStartFailedExitCode, the host not told. Answers the table to hand to
     // the LUT control (SetValues(table, -1, 2)), or nothing once ended.
@@ -47,9 +47,12 @@ public:
 
     // The answer to the control's LUTDefined: colours the input rows through
     // lookup, rewrites "lut.tmp", tells the host and ends the program.
-    // - "lut.tmp" missing: ends silently, the host not told;
-    // - GetOutPutFile false: "Can't find export values table", then -1G;
-    // - a line that cannot be appended: -1G;
+    // "lut.tmp" is deleted and written again from its start (truncated when
+    // it cannot be deleted); an empty table leaves an empty file.
+    // - "lut.tmp" missing or no regular file: ends silently, the host not told;
+    // - GetOutPutFile false, which includes a file that cannot be read:
+    //   "Can't find export values table", then -1G;
+    // - the new file cannot be written: -1G;
     // - any run-time error: "Error: N. description", then -1G;
     // - otherwise 0G.
     void answerDefined(const ColorLookup& lookup);
@@ -81,7 +84,8 @@ public:
 private:
     void answerSteps(const ColorLookup& lookup);
     void colorInputRows(const ColorLookup& lookup);
-    bool writeExportTable(const std::string& path);
+    // The rewritten "lut.tmp": one line per output row, in row order.
+    std::string exportText();
     bool fill(const std::string& path, ValuesTable& table);
     // Tells the host; when it cannot be reached, says so. Does not end the
     // program: its callers do.

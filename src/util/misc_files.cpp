@@ -13,10 +13,8 @@ namespace huebase::MiscFiles {
 
 namespace fs = std::filesystem;
 
-namespace {
-// Counts CRLF, LF and lone CR line ends, plus an unterminated last line.
 // Files without CR take the vectorised count alone.
-std::int64_t countLines(const std::string& text) {
+std::int64_t lineCount(std::string_view text) {
     if (text.empty())
         return 0;
     std::int64_t lines = std::count(text.begin(), text.end(), '\n');
@@ -32,7 +30,6 @@ std::int64_t countLines(const std::string& text) {
         ++lines;
     return lines;
 }
-} // namespace
 
 bool DirExists(const std::string& path) {
     try {
@@ -58,7 +55,7 @@ bool AppendToTextFile(const std::string& path, std::string_view text) {
 }
 
 std::int16_t getFileLineNumber(const std::string& path) {
-    return checkedInt16(countLines(readTextFile(path)));
+    return checkedInt16(lineCount(readTextFile(path)));
 }
 
 bool KillFile(const std::string& path) {

@@ -31,6 +31,9 @@ bool AppendToTextFile(const std::string& path, std::string_view text);
 // others) and more than 32,767 lines is VbError 6 (Overflow).
 std::int16_t getFileLineNumber(const std::string& path);
 
+// The number of lines of a text, counted as getFileLineNumber counts them.
+std::int64_t lineCount(std::string_view text);
+
 // Deletes the file, ignoring every error (a missing file is no failure).
 // Folders are left alone. Always true.
 bool KillFile(const std::string& path);

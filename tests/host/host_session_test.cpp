@@ -110,7 +110,9 @@ TEST(HostSessionStart, ReadsColTmpOneRowPerLineOrEndsTheProgram) {
          "7|\"key, one\";\"8\"|2.5;\"text\"|\"\";9|_;",
          {},
          {}},
-        {"1,2\n3,4\n\n\n", "1|2;3|4;_|_;_|_;", {}, {}},
+        // Blank lines at the end are no rows; one between records is a field.
+        {"1,2\n3,4\n\n \t\r\n", "1|2;3|4;", {}, {}},
+        {"1,2\n\n3\n", "1|2;_|3;_|_;", {}, {}},
         // Records are not lines: each row takes the next two fields.
         {"1,2,3\n4\n", "1|2;3|4;", {}, {}},
         {"1,10\n2\n", "1|10;2|_;", {"Error: 62. Input past end of file"}, {kFailed}},
@@ -153,7 +155,34 @@ TEST(HostSessionAnswer, RewritesLutTmpInRowOrderWithTheLastEqualValuesHostColour
     EXPECT_EQ(s.services.exitCodes(), std::vector<int>{0});
 }
 
+TEST(HostSessionAnswer, BlankLinesAtTheEndAreNoRowsAndAnEmptyTableLeavesAnEmptyFile) {
+    // Pure red at the highest value, black below: a DataMax taken from an
+    // Empty row past the last record would colour 100 black.
+    const HostSession::ColorLookup ramp = [](float value) { return value >= 100 ? kRed : 0; };
+    const std::string end(MiscFiles::kLineEnd);
+    const std::pair<const char*, std::string> cases[] = {
+        {"0,1\n100,2\n\n", "1.00,0.00" + end + "2.00,16711680.00" + end},
+        {"100,2\r\n \r\n\t\r\n", "2.00,16711680.00" + end},
+        {"", ""},
+        {"\n\n", ""},
+    };
+    for (const auto& [lut, answer] : cases) {
+        SCOPED_TRACE(lut);
+        Session s("0,1\n100,1\n\n", lut);
+        const std::optional<ValuesTable> table = s.session.start();
+        ASSERT_TRUE(table);
+        EXPECT_EQ(render(*table), "0|1;100|1;");
+        s.session.answerDefined(ramp);
+        EXPECT_EQ(s.lut(), answer);
+        EXPECT_EQ(s.notifier.statuses, Texts{"0G"});
+        EXPECT_TRUE(s.services.messages().empty());
+    }
+}
+
 TEST(HostSessionAnswer, FailuresAreShownAndToldAsMinusOneLeavingLutTmp) {
+    std::string tooLong;
+    for (int i = 0; i < 32768; ++i)
+        tooLong += "1,1\n";
     const HostSession::ColorLookup red = [](float) { return kRed; };
     const HostSession::ColorLookup tooBright = [](float) { return 0x01000000; };
     const HostSession::ColorLookup throwing = [](float) -> ColorValue {
@@ -172,7 +201,7 @@ TEST(HostSessionAnswer, FailuresAreShownAndToldAsMinusOneLeavingLutTmp) {
         {"abc,1\n", "1,1\n", red, {"Error: 13. Type mismatch"}, {"-1G"}},
         {"1e39,1\n", "1,1\n", red, {"Error: 6. Overflow"}, {"-1G"}},
         {"1,1\n", "1,1\n", tooBright, {"Error: 6. Overflow"}, {"-1G"}},
-        {"1,1\n", std::string(40000, '\n'), red, {"Error: 6. Overflow"}, {"-1G"}},
+        {"1,1\n", tooLong, red, {"Error: 6. Overflow"}, {"-1G"}},
         {"1,1\n", "1,1\n", throwing, {"Error: 11. Division by zero"}, {"-1G"}},
         {"1,1\n", "1,1\n", tooBright, {"Error: 6. Overflow", "gone /Problem !"}, {"-1G"}, false},
     };
