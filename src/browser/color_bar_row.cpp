@@ -1,5 +1,7 @@
 #include "browser/color_bar_row.h"
 
+#include "util/guarded.h"
+
 #include "browser/row_color_bar.h"
 #include "util/messages.h"
 #include "util/vb_error.h"
@@ -118,7 +120,7 @@ ColorBarRow::ColorBarRow(QWidget* parent)
     grid->addWidget(Line1_, 2, 0, 1, 4);
     grid->setColumnStretch(2, 1);
 
-    connect(SelectBtn_, &QPushButton::clicked, this, &ColorBarRow::SelectBtn_Click);
+    connect(SelectBtn_, &QPushButton::clicked, this, guarded(this, [this] { SelectBtn_Click(); }));
     Refresh();
 }
 

@@ -16,8 +16,7 @@ void FileList::setPath(const QString& path) {
     const QSignalBlocker quiet(this);
     clear();
     const QDir dir(path);
-    addItems(
-        dir.entryList({pattern_}, QDir::Files, QDir::Name | QDir::IgnoreCase));
+    addItems(dir.entryList({pattern_}, QDir::Files, QDir::Name | QDir::IgnoreCase));
     setCurrentRow(-1);
 }
 

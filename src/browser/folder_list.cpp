@@ -1,5 +1,7 @@
 #include "browser/folder_list.h"
 
+#include "util/guarded.h"
+
 #include <QDir>
 #include <QFileIconProvider>
 
@@ -9,8 +11,9 @@ FolderList::FolderList(QWidget* parent) : QListWidget(parent) {
     setObjectName("DirList");
     setAccessibleName("Folders");
     setUniformItemSizes(true);
-    connect(this, &QListWidget::itemActivated, this,
-            [this](QListWidgetItem* item) { setPath(item->data(Qt::UserRole).toString()); });
+    connect(this, &QListWidget::itemActivated, this, guarded(this, [this](QListWidgetItem* item) {
+                setPath(item->data(Qt::UserRole).toString());
+            }));
 }
 
 void FolderList::setPath(const QString& path) {

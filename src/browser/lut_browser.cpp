@@ -1,5 +1,7 @@
 #include "browser/lut_browser.h"
 
+#include "util/guarded.h"
+
 #include "browser/color_bar_row.h"
 #include "browser/file_list.h"
 #include "browser/folder_list.h"
@@ -87,7 +89,7 @@ void LUTBrowser::buildControls() {
         Option_[i]->setToolTip(kOptions[i].toolTip);
         options->addWidget(Option_[i]);
         connect(Option_[i], &QRadioButton::clicked, this,
-                [this, i] { setFittingMode(static_cast<std::int16_t>(i)); });
+                guarded(this, [this, i] { setFittingMode(static_cast<std::int16_t>(i)); }));
     }
     options->addStretch(1);
     Option_[0]->setChecked(true);
@@ -109,8 +111,8 @@ void LUTBrowser::buildControls() {
     VScroll1_ = new QScrollBar(Qt::Vertical, this);
     VScroll1_->setObjectName("VScroll1");
     for (QScrollBar* bar : {HScroll1_, VScroll1_}) {
-        connect(bar, &QScrollBar::valueChanged, this, &LUTBrowser::scrollRows);
-        connect(bar, &QScrollBar::sliderMoved, this, &LUTBrowser::scrollRows);
+        connect(bar, &QScrollBar::valueChanged, this, guarded(this, [this] { scrollRows(); }));
+        connect(bar, &QScrollBar::sliderMoved, this, guarded(this, [this] { scrollRows(); }));
     }
 
     auto* panel = new QGridLayout;
@@ -142,9 +144,10 @@ void LUTBrowser::buildControls() {
     // Not the file list: focusing it would choose its first file.
     Option_[0]->setFocus();
 
-    connect(DriveList_, &QComboBox::activated, this, &LUTBrowser::driveChosen);
-    connect(DirList_, &FolderList::pathChanged, this, &LUTBrowser::folderChanged);
-    connect(FileList_, &QListWidget::currentRowChanged, this, &LUTBrowser::fileChosen);
+    connect(DriveList_, &QComboBox::activated, this, guarded(this, &LUTBrowser::driveChosen));
+    connect(DirList_, &FolderList::pathChanged, this, guarded(this, &LUTBrowser::folderChanged));
+    connect(FileList_, &QListWidget::currentRowChanged, this,
+            guarded(this, &LUTBrowser::fileChosen));
     layoutRows();
 }
 
@@ -297,7 +300,7 @@ void LUTBrowser::scrollRows() {
 bool LUTBrowser::eventFilter(QObject* watched, QEvent* event) {
     if (watched == RowColContainerSup_) {
         if (event->type() == QEvent::Resize) {
-            layoutRows();
+            guard(this, [this] { layoutRows(); });
         } else if (event->type() == QEvent::Wheel) {
             const auto* wheel = static_cast<QWheelEvent*>(event);
             VScroll1_->setValue(VScroll1_->value() -

@@ -1,5 +1,7 @@
 #include "color/color_picker.h"
 
+#include "util/guarded.h"
+
 #include "color/color_ref_dialog.h"
 #include "color/qt_color.h"
 
@@ -67,7 +69,7 @@ void ColorPicker::mouseReleaseEvent(QMouseEvent* event) {
     pressed_ = false;
     event->accept();
     if (click)
-        UserControl_Click();
+        guard(this, [this] { UserControl_Click(); });
 }
 
 void ColorPicker::keyPressEvent(QKeyEvent* event) {
@@ -75,7 +77,7 @@ void ColorPicker::keyPressEvent(QKeyEvent* event) {
     case Qt::Key_Space:
     case Qt::Key_Return:
     case Qt::Key_Enter:
-        UserControl_Click();
+        guard(this, [this] { UserControl_Click(); });
         return;
     default:
         QWidget::keyPressEvent(event);

@@ -1,5 +1,7 @@
 #include "color/color_ref_dialog.h"
 
+#include "util/guarded.h"
+
 #include "color/color_chooser.h"
 #include "color/color_patch.h"
 #include "color/color_picker.h"
@@ -98,31 +100,31 @@ void frmColorRef::buildControls() {
     picColor_->setAccessibleName("Current colour");
     picColor_->setFrameStyle(QFrame::Panel | QFrame::Sunken);
     picColor_->setMinimumHeight(64);
-    connect(picColor_, &ColorPatch::pressed, this, [this] { picColor_MouseDown(); });
+    connect(picColor_, &ColorPatch::pressed, this, guarded(this, [this] { picColor_MouseDown(); }));
 
     cmdPick_ = new QPushButton("Pick", this);
     cmdPick_->setObjectName("cmdPick");
     cmdPick_->setToolTip("Pick  from Screen");
     cmdPick_->setAccessibleName("Pick from screen");
-    connect(cmdPick_, &QPushButton::clicked, this, [this] { cmdPick_Click(); });
+    connect(cmdPick_, &QPushButton::clicked, this, guarded(this, [this] { cmdPick_Click(); }));
 
     cmd5by5_ = new QPushButton("5x5", this);
     cmd5by5_->setObjectName("cmd5by5");
     cmd5by5_->setToolTip("Take a 5x5 average sample from the screen");
     cmd5by5_->setAccessibleName("Average 5x5 from screen");
-    connect(cmd5by5_, &QPushButton::clicked, this, [this] { cmd5by5_Click(); });
+    connect(cmd5by5_, &QPushButton::clicked, this, guarded(this, [this] { cmd5by5_Click(); }));
 
     cmdChange_ = new QPushButton("System", this);
     cmdChange_->setObjectName("cmdChange");
     cmdChange_->setToolTip("Windoze color picker");
     cmdChange_->setAccessibleName("System colour chooser");
     cmdChange_->setIcon(windowIcon());
-    connect(cmdChange_, &QPushButton::clicked, this, [this] { cmdChange_Click(); });
+    connect(cmdChange_, &QPushButton::clicked, this, guarded(this, [this] { cmdChange_Click(); }));
 
     auto* ok = new QPushButton("OK", this);
     ok->setObjectName("OK");
     ok->setDefault(true);
-    connect(ok, &QPushButton::clicked, this, [this] { OK_Click(); });
+    connect(ok, &QPushButton::clicked, this, guarded(this, [this] { OK_Click(); }));
     auto* cancel = new QPushButton("Cancel", this);
     cancel->setObjectName("Cancel");
     connect(cancel, &QPushButton::clicked, this, &QDialog::reject);
@@ -132,16 +134,20 @@ void frmColorRef::buildControls() {
     cmdAbout_->setText("?");
     cmdAbout_->setToolTip("About");
     cmdAbout_->setAccessibleName("About");
-    connect(cmdAbout_, &QToolButton::clicked, this, [this] { showAbout(); });
+    connect(cmdAbout_, &QToolButton::clicked, this, guarded(this, [this] { showAbout(); }));
 
     tmrPick_ = new QTimer(this);
     tmrPick_->setObjectName("tmrPick");
     tmrPick_->setInterval(0);
-    connect(tmrPick_, &QTimer::timeout, this, [this] { tmrPick_Timer(); });
+    connect(tmrPick_, &QTimer::timeout, this,
+            guarded(
+                this, [this] { tmrPick_Timer(); }, Reporting::OncePerCause));
     tmr5by5_ = new QTimer(this);
     tmr5by5_->setObjectName("tmr5by5");
     tmr5by5_->setInterval(0);
-    connect(tmr5by5_, &QTimer::timeout, this, [this] { tmr5by5_Timer(); });
+    connect(tmr5by5_, &QTimer::timeout, this,
+            guarded(
+                this, [this] { tmr5by5_Timer(); }, Reporting::OncePerCause));
 
     auto* pickButtons = new QHBoxLayout;
     pickButtons->addWidget(cmdPick_);
@@ -195,7 +201,8 @@ QWidget* frmColorRef::buildPaletteArea() {
     Picture1_->setPixmap(QPixmap::fromImage(paletteImage_));
     Picture1_->setGeometry(inner);
     Picture1_->setCursor(Qt::CrossCursor);
-    connect(Picture1_, &ColorPatch::pressed, this, [this](QPoint pos) { paletteClicked(pos); });
+    connect(Picture1_, &ColorPatch::pressed, this,
+            guarded(this, [this](QPoint pos) { paletteClicked(pos); }));
 
     // The enlargement covers the palette while the 5x5 sampling runs; the
     // palette cannot be clicked then anyway, as the swatch holds the mouse.
@@ -266,9 +273,10 @@ QLayout* frmColorRef::buildValueColumns() {
         grid->addWidget(box.slider, 2, column, Qt::AlignHCenter);
 
         const Box id = static_cast<Box>(i);
-        connect(box.edit, &QLineEdit::textChanged, this, [this, id] { boxChanged(id); });
+        connect(box.edit, &QLineEdit::textChanged, this,
+                guarded(this, [this, id] { boxChanged(id); }));
         connect(box.slider, &QScrollBar::valueChanged, this,
-                [this, id](int value) { sliderChanged(id, value); });
+                guarded(this, [this, id](int value) { sliderChanged(id, value); }));
     }
     grid->setColumnMinimumWidth(BoxH, 6);
     grid->setRowStretch(2, 1);
@@ -290,10 +298,10 @@ QLayout* frmColorRef::buildStrip() {
                                     .arg(5 * (i < 4 ? 4 - i : i - 3)));
         step->setFocusPolicy(Qt::TabFocus);
         step->setMinimumHeight(26);
-        connect(step, &ColorPatch::pressed, this, [this, step] {
-            setColor(step->color());
-            RefreshDisplay();
-        });
+        connect(step, &ColorPatch::pressed, this, guarded(this, [this, step] {
+                    setColor(step->color());
+                    RefreshDisplay();
+                }));
         strip->addWidget(step, 1);
         lblAdj_[i] = step;
     }
@@ -316,13 +324,13 @@ void frmColorRef::setColor(ColorValue color) {
 
 void frmColorRef::showEvent(QShowEvent* event) {
     QDialog::showEvent(event);
-    RefreshDisplay();
+    guard(this, [this] { RefreshDisplay(); });
 }
 
 void frmColorRef::changeEvent(QEvent* event) {
     QDialog::changeEvent(event);
     if (event->type() == QEvent::ActivationChange && isActiveWindow())
-        RefreshDisplay();
+        guard(this, [this] { RefreshDisplay(); });
 }
 
 bool frmColorRef::eventFilter(QObject* watched, QEvent* event) {

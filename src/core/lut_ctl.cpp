@@ -1,5 +1,7 @@
 #include "core/lut_ctl.h"
 
+#include "util/guarded.h"
+
 #include "editor/lut_editor_window.h"
 
 #include <QHBoxLayout>
@@ -37,7 +39,7 @@ LUTCtl::LUTCtl(QWidget* parent) : QWidget(parent) {
     IconImg_->setAutoRaise(true);
     IconImg_->setToolTip("Edit the colour table");
     IconImg_->setAccessibleName("Colour table editor");
-    connect(IconImg_, &QToolButton::clicked, this, &LUTCtl::showCLut);
+    connect(IconImg_, &QToolButton::clicked, this, guarded(this, [this] { showCLut(); }));
     auto* layout = new QHBoxLayout(this);
     layout->setContentsMargins(0, 0, 0, 0);
     layout->addWidget(IconImg_);

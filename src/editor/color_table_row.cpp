@@ -1,5 +1,7 @@
 #include "editor/color_table_row.h"
 
+#include "util/guarded.h"
+
 #include "color/color_picker.h"
 #include "core/lut_node.h"
 #include "editor/row_value_validation.h"
@@ -40,8 +42,9 @@ ColorTableRow::ColorTableRow(QWidget* parent) : QWidget(parent) {
     layout->addWidget(ColorPicker1_, 1);
     setFixedHeight(rowHeight());
 
-    connect(ColorPicker1_, &ColorPicker::Changed, this, &ColorTableRow::swatchChanged);
-    connect(cmbMethod_, &QComboBox::activated, this, &ColorTableRow::methodChosen);
+    connect(ColorPicker1_, &ColorPicker::Changed, this,
+            guarded(this, &ColorTableRow::swatchChanged));
+    connect(cmbMethod_, &QComboBox::activated, this, guarded(this, &ColorTableRow::methodChosen));
 }
 
 int ColorTableRow::rowHeight() {
@@ -103,13 +106,13 @@ void ColorTableRow::commitValue() {
 bool ColorTableRow::eventFilter(QObject* watched, QEvent* event) {
     if (watched == txtValue_) {
         if (event->type() == QEvent::FocusOut) {
-            commitValue();
+            guard(this, [this] { commitValue(); });
         } else if (event->type() == QEvent::KeyPress) {
             const int key = static_cast<QKeyEvent*>(event)->key();
             // Enter takes the value as leaving the box does, instead of
             // pressing the window's default button.
             if (key == Qt::Key_Return || key == Qt::Key_Enter) {
-                commitValue();
+                guard(this, [this] { commitValue(); });
                 return true;
             }
         }

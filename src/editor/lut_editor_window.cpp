@@ -1,5 +1,7 @@
 #include "editor/lut_editor_window.h"
 
+#include "util/guarded.h"
+
 #include "color/color_picker.h"
 #include "editor/color_bar_view.h"
 #include "editor/distribution_graph.h"
@@ -68,7 +70,7 @@ void LutEditorWindow::buildControls() {
     connect(Graph_, &DistributionGraph::pointerValue, Xtxt_, &QLineEdit::setText);
     auto* Indiv = button(this, "Indiv", "Individual values");
     Indiv->setToolTip("Add a node at every distinct data value");
-    connect(Indiv, &QPushButton::clicked, this, &LutEditorWindow::indivClicked);
+    connect(Indiv, &QPushButton::clicked, this, guarded(this, [this] { indivClicked(); }));
     auto* hint = new QLabel("Click the graph to add a node. On a node: Shift+right-drag moves it, "
                             "Ctrl+right deletes it, left click picks its colour.",
                             this);
@@ -87,7 +89,7 @@ void LutEditorWindow::buildControls() {
 
     rows_ = new ValueRowsPanel(model, this);
     connect(GraphColorTab_, &NodeTabStrip::colorChoiceRequested, this,
-            [this](int k) { reportingErrors([&] { rows_->pickColor(k); }); });
+            guarded(this, [this](int k) { reportingErrors([&] { rows_->pickColor(k); }); }));
 
     auto* Label1 = new QLabel("NO DATA", this);
     Label1->setObjectName("Label1");
@@ -122,9 +124,9 @@ void LutEditorWindow::buildControls() {
     connect(OpenBrowser, &QPushButton::clicked, this, &LutEditorWindow::openBrowserRequested);
     connect(cmdSave, &QPushButton::clicked, this, &LutEditorWindow::saveRequested);
     connect(Command1, &QPushButton::clicked, this,
-            [this] { reportingErrors([&] { model_->Reset(); }); });
-    connect(Cancel, &QPushButton::clicked, this, &LutEditorWindow::reject);
-    connect(OK, &QPushButton::clicked, this, &LutEditorWindow::accept);
+            guarded(this, [this] { reportingErrors([&] { model_->Reset(); }); }));
+    connect(Cancel, &QPushButton::clicked, this, guarded(this, [this] { reject(); }));
+    connect(OK, &QPushButton::clicked, this, guarded(this, [this] { accept(); }));
 
     auto* buttons = new QHBoxLayout;
     buttons->addWidget(OpenBrowser);

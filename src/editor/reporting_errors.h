@@ -5,15 +5,15 @@
 
 namespace huebase {
 
-// Runs an editing action started by the user; a run-time error it raises is
-// shown as "Error: N. description" and the editor carries on with what was
-// done before the error.
+// Runs an editing action started by the user; a run-time error it raises
+// (or any other failure, as its error number) is shown as "Error: N.
+// description" and the editor carries on with what was done before the error.
 template <typename Action> bool reportingErrors(Action&& action) {
     try {
         action();
         return true;
-    } catch (const VbError& error) {
-        showMessage(error.message(), {}, MessageIcon::Critical);
+    } catch (...) {
+        showMessage(VbError::from(std::current_exception()).message(), {}, MessageIcon::Critical);
         return false;
     }
 }

@@ -1,5 +1,7 @@
 #include "editor/value_rows_panel.h"
 
+#include "util/guarded.h"
+
 #include "editor/color_table_row.h"
 #include "editor/lut_editor_model.h"
 #include "editor/reporting_errors.h"
@@ -50,7 +52,7 @@ ValueRowsPanel::ValueRowsPanel(LutEditorModel& model, QWidget* parent)
     VScroll1_->setAccessibleName("Scroll rows");
     VScroll1_->setSingleStep(ColorTableRow::rowHeight());
     VScroll1_->hide();
-    connect(VScroll1_, &QScrollBar::valueChanged, this, &ValueRowsPanel::scrolled);
+    connect(VScroll1_, &QScrollBar::valueChanged, this, guarded(this, &ValueRowsPanel::scrolled));
 
     auto* body = new QHBoxLayout;
     body->setContentsMargins(0, 0, 0, 0);
@@ -229,7 +231,7 @@ void ValueRowsPanel::focusNeighbour(const ColorTableRow& from, int step) {
 
 bool ValueRowsPanel::eventFilter(QObject* watched, QEvent* event) {
     if (watched == RowColContainerSup_ && event->type() == QEvent::Resize) {
-        layoutRows();
+        guard(this, [this] { layoutRows(); });
     } else if ((watched == RowColContainerSup_ || watched == RowColContainer_) &&
                event->type() == QEvent::Wheel) {
         if (VScroll1_->isVisible())
@@ -240,7 +242,7 @@ bool ValueRowsPanel::eventFilter(QObject* watched, QEvent* event) {
         const int key = static_cast<QKeyEvent*>(event)->key();
         if (key == Qt::Key_Up || key == Qt::Key_Down) {
             if (auto* row = qobject_cast<ColorTableRow*>(watched->parent())) {
-                focusNeighbour(*row, key == Qt::Key_Up ? -1 : 1);
+                guard(this, [&] { focusNeighbour(*row, key == Qt::Key_Up ? -1 : 1); });
                 return true;
             }
         }

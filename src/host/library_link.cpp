@@ -2,21 +2,25 @@
 
 #include "browser/lut_library.h"
 #include "editor/lut_editor_window.h"
+#include "util/guarded.h"
 
 namespace huebase {
 
 void linkLibrary(LutEditorWindow& editor, const std::string& programFolder) {
-    QObject::connect(
-        &editor, &LutEditorWindow::openBrowserRequested, &editor, [&editor, programFolder] {
-            LutLibrary::browse(&editor, programFolder, editor.DataMin(), editor.DataMax(),
-                               [&editor](const LutTable& table, ColorValue noData) {
-                                   editor.SetLutTable(table);
-                                   editor.setNoDataColor(noData);
-                               });
-        });
-    QObject::connect(&editor, &LutEditorWindow::saveRequested, &editor, [&editor, programFolder] {
-        LutLibrary::saveAs(&editor, programFolder, editor.model().lutTable(), editor.noDataColor());
-    });
+    QObject::connect(&editor, &LutEditorWindow::openBrowserRequested, &editor,
+                     guarded(&editor, [&editor, programFolder] {
+                         LutLibrary::browse(&editor, programFolder, editor.DataMin(),
+                                            editor.DataMax(),
+                                            [&editor](const LutTable& table, ColorValue noData) {
+                                                editor.SetLutTable(table);
+                                                editor.setNoDataColor(noData);
+                                            });
+                     }));
+    QObject::connect(&editor, &LutEditorWindow::saveRequested, &editor,
+                     guarded(&editor, [&editor, programFolder] {
+                         LutLibrary::saveAs(&editor, programFolder, editor.model().lutTable(),
+                                            editor.noDataColor());
+                     }));
 }
 
 } // namespace huebase

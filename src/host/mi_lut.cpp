@@ -1,5 +1,7 @@
 #include "host/mi_lut.h"
 
+#include "util/guarded.h"
+
 #include "color/color_picker.h"
 #include "core/lut_ctl.h"
 #include "host/library_link.h"
@@ -38,7 +40,7 @@ MILut::MILut(std::string programFolder, HostNotifier& notifier, QWidget* parent)
     layout->addLayout(controls);
 
     connect(LUTCtl1_, &LUTCtl::LUTDefined, this, &MILut::LUTCtl1_LUTDefined);
-    connect(OK_, &QPushButton::clicked, this, &MILut::OK_Click);
+    connect(OK_, &QPushButton::clicked, this, guarded(this, &MILut::OK_Click));
     linkLibrary(LUTCtl1_->editor(), folder_);
 }
 

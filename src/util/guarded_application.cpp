@@ -13,15 +13,15 @@ namespace huebase {
 
 namespace {
 
-QWidget* widgetOf(QObject* object) {
+QWidget* widgetOf(const QObject* object) {
     for (; object; object = object->parent())
-        if (auto* widget = qobject_cast<QWidget*>(object))
+        if (auto* widget = qobject_cast<QWidget*>(const_cast<QObject*>(object)))
             return widget;
     return QApplication::activeWindow();
 }
 
-std::string captionOf(QObject* receiver) {
-    const QWidget* widget = widgetOf(receiver);
+std::string captionOf(const QObject* context) {
+    const QWidget* widget = widgetOf(context);
     return widget ? widget->window()->windowTitle().toStdString() : std::string();
 }
 
@@ -35,7 +35,7 @@ void drawNote(QWidget& widget, const QString& text) {
                      painter.fontMetrics().elidedText(text, Qt::ElideRight, area.width()));
 }
 
-void report(const std::string& message, const std::string& title) {
+void show(const std::string& message, const std::string& title) {
     showMessage(message, title, MessageIcon::Critical, MessageButtons::Ok);
 }
 
@@ -51,39 +51,46 @@ bool GuardedApplication::notify(QObject* receiver, QEvent* event) {
     try {
         return QApplication::notify(receiver, event);
     } catch (...) {
-        recover(receiver, *event, VbError::from(std::current_exception()).message());
+        const std::string message = VbError::from(std::current_exception()).message();
+        if (event->type() != QEvent::Paint) {
+            report(receiver, message,
+                   event->type() == QEvent::Timer ? Reporting::OncePerCause : Reporting::EveryTime);
+            return true;
+        }
+        if (auto* widget = qobject_cast<QWidget*>(receiver))
+            drawNote(*widget, paintNote(QString::fromStdString(message)));
+        // A message box now would paint over the widget and fail again.
+        if (firstFailure(receiver, message)) {
+            const std::string title = captionOf(receiver);
+            QTimer::singleShot(0, this, [message, title] { show(message, title); });
+        }
         return true;
     }
 }
 
-void GuardedApplication::recover(QObject* receiver, const QEvent& event,
-                                 const std::string& message) {
-    const std::string title = captionOf(receiver);
-    switch (event.type()) {
-    case QEvent::Paint:
-        if (auto* widget = qobject_cast<QWidget*>(receiver))
-            drawNote(*widget, paintNote(QString::fromStdString(message)));
-        // A message box now would paint over the widget and fail again.
-        if (firstFailure(receiver, message))
-            QTimer::singleShot(0, this, [message, title] { report(message, title); });
-        break;
-    case QEvent::Timer:
-        if (firstFailure(receiver, message))
-            report(message, title);
-        break;
-    default:
-        report(message, title);
-        break;
-    }
+void GuardedApplication::reportFailure(const QObject* context, std::exception_ptr failure,
+                                       Reporting reporting) {
+    const std::string message = VbError::from(failure).message();
+    if (auto* application = qobject_cast<GuardedApplication*>(QCoreApplication::instance()))
+        application->report(context, message, reporting);
+    else
+        show(message, captionOf(context));
 }
 
-bool GuardedApplication::firstFailure(QObject* receiver, const std::string& message) {
-    if (!reported_.insert({receiver, message}).second)
+void GuardedApplication::report(const QObject* context, const std::string& message,
+                                Reporting reporting) {
+    if (reporting == Reporting::EveryTime || firstFailure(context, message))
+        show(message, captionOf(context));
+}
+
+bool GuardedApplication::firstFailure(const QObject* context, const std::string& message) {
+    if (!reported_.insert({context, message}).second)
         return false;
     // A later object at the same address is a new cause.
-    connect(receiver, &QObject::destroyed, this, [this, receiver, message] {
-        reported_.erase({receiver, message});
-    });
+    if (context)
+        connect(context, &QObject::destroyed, this, [this, context, message] {
+            reported_.erase({context, message});
+        });
     return true;
 }
 

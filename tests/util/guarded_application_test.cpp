@@ -1,3 +1,4 @@
+#include "util/guarded.h"
 #include "util/guarded_application.h"
 #include "util/vb_error.h"
 
@@ -59,9 +60,9 @@ protected:
     FailingPaint* paint = nullptr;
 };
 
-TEST_F(GuardTest, AFailingActionIsReportedEachTimeAndTheSessionGoesOn) {
+TEST_F(GuardTest, AFailingSlotIsReportedEachTimeAndTheSessionGoesOn) {
     std::function<void()> action;
-    QObject::connect(button, &QPushButton::clicked, [&] { action(); });
+    QObject::connect(button, &QPushButton::clicked, &window, guarded(&window, [&] { action(); }));
     paint->failing = false;
     window.show();
     const struct {
