@@ -9,6 +9,7 @@ packages=(
     libgtest-dev libgmock-dev libbenchmark-dev
     xvfb xauth xdotool fonts-dejavu-core
     locales
+    clang libclang-rt-14-dev
 )
 
 missing=()

@@ -3,7 +3,8 @@
 # build, and in the AddressSanitizer + UndefinedBehaviorSanitizer build
 # (preset "sanitize"), where any finding fails the test that raised it. The
 # tests that need a real X server run on Xvfb, the others on Qt's offscreen
-# platform.
+# platform. Then builds the fuzz targets, replays their corpora and runs each
+# deterministically (scripts/fuzz.sh).
 set -euo pipefail
 cd "$(dirname "$0")/.."
 root=$PWD
@@ -17,7 +18,11 @@ scripts/build.sh
 run_suite build
 
 scripts/build.sh sanitize
-export ASAN_OPTIONS=detect_leaks=1
-export LSAN_OPTIONS=suppressions=$root/tests/sanitize/lsan.supp:print_suppressions=0
-export UBSAN_OPTIONS=print_stacktrace=1:halt_on_error=1
-run_suite build-sanitize
+(
+    export ASAN_OPTIONS=detect_leaks=1
+    export LSAN_OPTIONS=suppressions=$root/tests/sanitize/lsan.supp:print_suppressions=0
+    export UBSAN_OPTIONS=print_stacktrace=1:halt_on_error=1
+    run_suite build-sanitize
+)
+
+scripts/fuzz.sh ci

@@ -1,5 +1,6 @@
 #include "support/scratch_folder.h"
 
+#include <cstdio>
 #include <fstream>
 #include <random>
 
@@ -8,8 +9,11 @@ namespace huebase::testing {
 ScratchFolder::ScratchFolder() {
     std::random_device random;
     do {
-        path_ =
-            std::filesystem::temp_directory_path() / ("huebase-util-" + std::to_string(random()));
+        // Names of one length: the fuzz targets' runs depend on nothing
+        // random, not even the length of their paths.
+        char digits[16];
+        std::snprintf(digits, sizeof digits, "%010u", static_cast<unsigned>(random()));
+        path_ = std::filesystem::temp_directory_path() / (std::string("huebase-util-") + digits);
     } while (!std::filesystem::create_directory(path_));
 }
 
