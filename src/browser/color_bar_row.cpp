@@ -14,6 +14,7 @@
 #include <QLineEdit>
 #include <QPushButton>
 
+#include <string>
 #include <utility>
 
 namespace huebase {
@@ -36,14 +37,19 @@ QLineEdit* textBox(const char* name, const QString& accessibleName, QWidget* par
 }
 
 // Keeps the messages raised while it lives as the row's notes, and shows
-// them as well when the row is not quiet.
+// them as well when the row is not quiet. A run-time error that no routine
+// titled is titled with the caption of the row's window, as every error the
+// program did not foresee is.
 class MessageKeeper {
 public:
-    MessageKeeper(QStringList& kept, bool show)
-        : previous_(setMessageResponder([&kept, show, this](const MessageRequest& request) {
-              kept << QString::fromStdString(request.text);
-              return show && previous_ ? previous_(request) : MessageAnswer::Ok;
-          })) {}
+    MessageKeeper(QStringList& kept, bool show, std::string caption)
+        : previous_(setMessageResponder(
+              [&kept, show, caption = std::move(caption), this](MessageRequest request) {
+                  kept << QString::fromStdString(request.text);
+                  if (request.title.empty() && request.text.starts_with("Error: "))
+                      request.title = caption;
+                  return show && previous_ ? previous_(request) : MessageAnswer::Ok;
+              })) {}
     ~MessageKeeper() { setMessageResponder(std::move(previous_)); }
     MessageKeeper(const MessageKeeper&) = delete;
     MessageKeeper& operator=(const MessageKeeper&) = delete;
@@ -129,7 +135,7 @@ ColorBarRow::~ColorBarRow() = default;
 template <typename Change> void ColorBarRow::run(Change&& change) {
     notes_.clear();
     {
-        const MessageKeeper keeper(notes_, !quiet_);
+        const MessageKeeper keeper(notes_, !quiet_, window()->windowTitle().toStdString());
         change();
     }
     Refresh();

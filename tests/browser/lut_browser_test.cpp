@@ -307,8 +307,13 @@ TEST_F(BrowserTest, EveryFileOfABrokenLibraryGetsARowWithItsBarOrANoteInEveryMod
         }
     }
     EXPECT_LE(services.messages().size(), 2 * std::size(files)) << "one box per cause";
-    for (const MessageRequest& message : services.messages())
+    for (const MessageRequest& message : services.messages()) {
         EXPECT_TRUE(message.text.starts_with("Error: ")) << message.text;
+        EXPECT_TRUE(message.title == "LoadLut" || message.title == "LUT Browser") << message.title;
+    }
+    EXPECT_TRUE(std::ranges::any_of(services.messages(), [](const MessageRequest& message) {
+        return message.title == "LUT Browser"; // the warp over equal ends
+    }));
 }
 
 } // namespace
