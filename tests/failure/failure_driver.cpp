@@ -11,6 +11,7 @@
 //   huebase_failure_driver save PATH            save the ramp as PATH (OK to overwrite)
 //   huebase_failure_driver library FOLDER NAME  open the library of FOLDER, then save
 //                                               the ramp there as NAME
+#include "browser/color_bar_row.h"
 #include "browser/file_list.h"
 #include "browser/lut_browser.h"
 #include "browser/lut_library.h"
@@ -69,6 +70,9 @@ int library(int argc, char** argv, const std::string& folder, const std::string&
         browser.loadLibrary(folder);
         const auto* files = browser.findChild<FileList*>("FileList");
         std::cout << "rows: " << (files ? files->count() : -1) << '\n';
+        for (const ColorBarRow* row : browser.rows())
+            for (const QString& note : row->notes())
+                std::cout << "note: " << note.toStdString() << '\n';
     }
     const std::string path = LutLibrary::folderOf(folder) + "/" + name;
     const auto chooser = [&path](const FileDialogRequest&) { return std::optional(path); };
