@@ -28,9 +28,17 @@ std::vector<double> axisTicks(double from, double to, int wanted) {
     const auto tick = [&](double k) {
         return exponent < 0 ? k * factor / scale : k * factor * scale;
     };
-    const double step = tick(1.0);
-    for (double k = std::ceil(from / step); tick(k) <= to; k += 1.0)
-        ticks.push_back(tick(k) == 0.0 ? 0.0 : tick(k));
+    // Counted in integers: far from zero (1e20 with a step of 1e12, say) a
+    // double no longer changes by 1, and the range never holds more than
+    // wanted + 1 steps.
+    const double first = std::ceil(from / tick(1.0));
+    for (int j = 0; j <= wanted + 1; ++j) {
+        const double value = tick(first + j);
+        if (!(value <= to))
+            break;
+        if (ticks.empty() || value > ticks.back())
+            ticks.push_back(value == 0.0 ? 0.0 : value);
+    }
     return ticks;
 }
 

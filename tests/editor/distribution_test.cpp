@@ -10,6 +10,8 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
+
 #include <cmath>
 #include <map>
 #include <random>
@@ -174,10 +176,15 @@ TEST(AxisTicks, AreRoundStepsInsideTheRange) {
     for (const auto& [from, to] : {std::pair{-3.7, 8123.0}, {1e-3, 2e-3}, {-50.0, -49.0}}) {
         const std::vector<double> ticks = axisTicks(from, to, 8);
         ASSERT_GE(ticks.size(), 3u) << from;
+        EXPECT_TRUE(std::ranges::is_sorted(ticks));
         EXPECT_LE(ticks.size(), 9u) << from;
         EXPECT_GE(ticks.front(), from);
         EXPECT_LE(ticks.back(), to);
     }
+    // Far from zero the steps are below a double's resolution: still few, ascending ticks.
+    const std::vector<double> far = axisTicks(1e20, 1e20 + 65536, 8);
+    EXPECT_LE(far.size(), 9u);
+    EXPECT_TRUE(std::ranges::is_sorted(far) && std::ranges::adjacent_find(far) == far.end());
     EXPECT_TRUE(axisTicks(5, 5, 6).empty());
     EXPECT_TRUE(axisTicks(0, 10, 0).empty());
 }
