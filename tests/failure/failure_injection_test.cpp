@@ -9,6 +9,7 @@
 // shim that fails writes elsewhere.
 #include "host/host_session.h"
 
+#include "support/recording_notifier.h"
 #include "support/scratch_folder.h"
 #include "support/service_recorder.h"
 
@@ -355,15 +356,7 @@ INSTANTIATE_TEST_SUITE_P(Disks, FullDiskTest, ::testing::Values(FullDisk::Tmpfs,
                              return info.param == FullDisk::Tmpfs ? "Tmpfs" : "Shim";
                          });
 
-class RecordingNotifier : public HostNotifier {
-public:
-    bool tell(const std::string& status) override {
-        statuses.push_back(status);
-        return true;
-    }
-    std::string unreachableMessage() const override { return "gone"; }
-    Lines statuses;
-};
+using testing::RecordingNotifier;
 
 TEST(FailureInjection, LutTmpGoneOrNoFileAtOkEndsSilentlyWithoutWaiting) {
     const std::pair<const char*, std::function<void(const fs::path&)>> cases[] = {

@@ -22,6 +22,7 @@
 #include "host/host_session.h"
 #include "util/misc_files.h"
 
+#include "support/recording_notifier.h"
 #include "support/scratch_folder.h"
 #include "support/service_recorder.h"
 
@@ -36,15 +37,7 @@ namespace {
 
 using namespace huebase;
 
-class RecordingNotifier : public HostNotifier {
-public:
-    bool tell(const std::string& status) override {
-        statuses.push_back(status);
-        return true;
-    }
-    std::string unreachableMessage() const override { return "unreachable"; }
-    std::vector<std::string> statuses;
-};
+using testing::RecordingNotifier;
 
 const testing::ScratchFolder& folder() {
     static const testing::ScratchFolder scratch;

@@ -4,6 +4,7 @@
 #include "util/misc_files.h"
 
 #include "support/numeric_locale.h"
+#include "support/recording_notifier.h"
 #include "support/scratch_folder.h"
 #include "support/service_recorder.h"
 
@@ -25,16 +26,7 @@ namespace {
 constexpr ColorValue kRed = 0x0000FF, kGreen = 0x00FF00, kBlue = 0xFF0000;
 using Texts = std::vector<std::string>;
 
-class RecordingNotifier : public HostNotifier {
-public:
-    bool tell(const std::string& status) override {
-        statuses.push_back(status);
-        return reachable;
-    }
-    std::string unreachableMessage() const override { return "gone"; }
-    Texts statuses;
-    bool reachable = true;
-};
+using testing::RecordingNotifier;
 
 // A session on a scratch folder holding the exchange files given.
 struct Session {
