@@ -14,15 +14,6 @@
 namespace huebase {
 
 namespace {
-// A field as a 32-bit float: a number too large for one is error 6.
-float toSingle(const Variant& field) {
-    const double number = field.toNumber();
-    const auto single = static_cast<float>(number);
-    if (std::isinf(single) && !std::isinf(number))
-        throw VbError(VbError::Overflow);
-    return single;
-}
-
 // The export table's row count. A file that cannot be read has no rows: the
 // reading that follows fails on it and is reported like every other export
 // table that cannot be read. Too many lines stay error 6.
@@ -101,7 +92,7 @@ void HostSession::answerSteps(const ColorLookup& lookup) {
 void HostSession::colorInputRows(const ColorLookup& lookup) {
     for (int row = 1; row <= input_.rows(); ++row) {
         Variant& color = input_.at(row, 2);
-        color = Variant(static_cast<double>(lookup(toSingle(input_.at(row, 1)))));
+        color = Variant(static_cast<double>(lookup(toSingle(input_.at(row, 1).toNumber()))));
         color = Variant(static_cast<double>(hostColor(toInt32(color.toNumber()))));
     }
 }

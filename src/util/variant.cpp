@@ -9,9 +9,7 @@
 namespace huebase {
 
 namespace {
-bool isBlank(char c) {
-    return c == ' ' || c == '\t';
-}
+bool isBlank(char c) { return c == ' ' || c == '\t'; }
 
 std::strong_ordering compareNumbers(double a, double b) {
     if (a < b)
@@ -24,12 +22,9 @@ std::strong_ordering compareNumbers(double a, double b) {
 
 double Variant::toNumber() const {
     switch (kind()) {
-    case Kind::Empty:
-        return 0.0;
-    case Kind::Number:
-        return std::get<double>(value_);
-    case Kind::Text:
-        break;
+    case Kind::Empty: return 0.0;
+    case Kind::Number: return std::get<double>(value_);
+    case Kind::Text: break;
     }
     const std::string& text = std::get<std::string>(value_);
     const char* first = text.data();
@@ -49,12 +44,9 @@ double Variant::toNumber() const {
 
 std::string Variant::toText() const {
     switch (kind()) {
-    case Kind::Empty:
-        return {};
-    case Kind::Text:
-        return std::get<std::string>(value_);
-    case Kind::Number:
-        break;
+    case Kind::Empty: return {};
+    case Kind::Text: return std::get<std::string>(value_);
+    case Kind::Number: break;
     }
     char buffer[32];
     const auto result = std::to_chars(buffer, buffer + sizeof buffer, std::get<double>(value_));

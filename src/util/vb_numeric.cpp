@@ -9,9 +9,7 @@ namespace huebase {
 
 // std::nearbyint follows the current rounding mode; the program never leaves
 // the default round-to-nearest-even mode.
-double roundHalfEven(double x) noexcept {
-    return std::nearbyint(x);
-}
+double roundHalfEven(double x) noexcept { return std::nearbyint(x); }
 
 namespace {
 template <typename Int> Int roundedChecked(double x) {
@@ -29,12 +27,8 @@ template <typename Int> Int narrowedChecked(std::int64_t x) {
 }
 } // namespace
 
-std::int16_t toInt16(double x) {
-    return roundedChecked<std::int16_t>(x);
-}
-std::int32_t toInt32(double x) {
-    return roundedChecked<std::int32_t>(x);
-}
+std::int16_t toInt16(double x) { return roundedChecked<std::int16_t>(x); }
+std::int32_t toInt32(double x) { return roundedChecked<std::int32_t>(x); }
 float toSingle(double x) {
     const float single = static_cast<float>(x);
     if (!std::isfinite(single))
@@ -42,11 +36,7 @@ float toSingle(double x) {
     return single;
 }
 
-std::int16_t checkedInt16(std::int64_t x) {
-    return narrowedChecked<std::int16_t>(x);
-}
-std::int32_t checkedInt32(std::int64_t x) {
-    return narrowedChecked<std::int32_t>(x);
-}
+std::int16_t checkedInt16(std::int64_t x) { return narrowedChecked<std::int16_t>(x); }
+std::int32_t checkedInt32(std::int64_t x) { return narrowedChecked<std::int32_t>(x); }
 
 } // namespace huebase
