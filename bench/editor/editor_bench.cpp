@@ -3,7 +3,7 @@
 // over the largest distribution the rows can hold, and one drag step.
 
 #include "editor/lut_editor_model.h"
-#include "editor/lut_editor_owner.h"
+#include "core/lut_editor_owner.h"
 #include "editor_bench_data.h"
 
 #include <benchmark/benchmark.h>

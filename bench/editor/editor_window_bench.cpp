@@ -66,7 +66,7 @@ void BM_InitFromOrderedArrayPainted(benchmark::State& state) {
     const std::vector<DistributionRow> rows = distribution(kLargest);
     auto window = shownEditor();
     for (auto _ : state) {
-        window->InitFromOrderedArray(rows, -1);
+        window->model().InitFromOrderedArray(rows, -1);
         benchmark::DoNotOptimize(window->grab());
     }
 }
@@ -74,7 +74,7 @@ BENCHMARK(BM_InitFromOrderedArrayPainted)->Unit(benchmark::kMillisecond);
 
 void BM_SetLutTablePainted(benchmark::State& state) {
     auto window = shownEditor();
-    window->InitFromOrderedArray(distribution(kLargest), -1);
+    window->model().InitFromOrderedArray(distribution(kLargest), -1);
     const LutTable table = rampTable(kLargest, -1500.0f, 14883.0f);
     for (auto _ : state) {
         window->SetLutTable(table);
@@ -88,7 +88,7 @@ BENCHMARK(BM_SetLutTablePainted)->Unit(benchmark::kMillisecond);
 void BM_ScrollStep(benchmark::State& state) {
     auto window = shownEditor();
     const double before = residentMegabytes();
-    window->InitFromOrderedArray(distribution(kLargest), -1);
+    window->model().InitFromOrderedArray(distribution(kLargest), -1);
     window->SetLutTable(rampTable(kLargest, -1500.0f, 14883.0f));
     auto* panel = window->findChild<ValueRowsPanel*>();
     QScrollBar& scroll = panel->scrollBar();
@@ -118,7 +118,7 @@ BENCHMARK(BM_ScrollStep)->Arg(0)->Arg(1)->ArgNames({"page"})->Unit(benchmark::kM
 void BM_DragStep(benchmark::State& state) {
     const int n = static_cast<int>(state.range(0));
     auto window = shownEditor();
-    window->InitFromOrderedArray(distribution(kLargest), -1);
+    window->model().InitFromOrderedArray(distribution(kLargest), -1);
     window->SetLutTable(rampTable(n, -1500.0f, 14883.0f));
     const int k = n / 2;
     window->model().pressOnTab(k, MouseButton::Right, ShiftKey);
@@ -147,7 +147,7 @@ BENCHMARK(BM_DragStep)->Arg(1000)->Unit(benchmark::kMillisecond);
 // the window painted with the result.
 void BM_IndivPainted(benchmark::State& state) {
     auto window = shownEditor();
-    window->InitFromOrderedArray(distribution(kLargest), -1);
+    window->model().InitFromOrderedArray(distribution(kLargest), -1);
     const LutTable ends = rampTable(2, -1500.0f, 14883.0f);
     auto* indiv = window->findChild<QPushButton*>("Indiv");
     for (auto _ : state) {

@@ -2,8 +2,6 @@
 
 #include "util/guarded.h"
 
-#include "editor/lut_editor_window.h"
-
 #include <QHBoxLayout>
 #include <QLinearGradient>
 #include <QPainter>
@@ -31,7 +29,8 @@ QIcon rampIcon() {
 }
 } // namespace
 
-LUTCtl::LUTCtl(QWidget* parent) : QWidget(parent) {
+LUTCtl::LUTCtl(EditorFactory makeEditor, QWidget* parent)
+    : QWidget(parent), makeEditor_(std::move(makeEditor)) {
     IconImg_ = new QToolButton(this);
     IconImg_->setObjectName("IconImg");
     IconImg_->setIcon(rampIcon());
@@ -47,9 +46,9 @@ LUTCtl::LUTCtl(QWidget* parent) : QWidget(parent) {
 
 LUTCtl::~LUTCtl() = default;
 
-LutEditorWindow& LUTCtl::editor() {
+LutEditor& LUTCtl::editor() {
     if (!editor_) {
-        editor_ = std::make_unique<LutEditorWindow>();
+        editor_ = makeEditor_();
         editor_->setOwner(this);
         editor_->DefaultLUT();
         editor_->setNoDataColor(clut_.noDataColor());
@@ -62,22 +61,20 @@ std::vector<ValueColor> LUTCtl::ColorArray() {
 }
 
 void LUTCtl::showCLut() {
-    LutEditorWindow& window = editor();
-    window.setModal(true);
-    window.exec();
+    editor().showModal();
 }
 
 void LUTCtl::SetValues(const VariantRows& values, std::int32_t extra, std::uint8_t mode) {
-    LutEditorWindow& window = editor();
+    LutEditor& target = editor();
     switch (mode) {
     case 0:
-        window.InitFromStdArray(ValueLayouts::valueGrid(values), extra);
+        target.InitFromStdArray(values, extra);
         break;
     case 1:
-        window.InitFromStraightArray(ValueLayouts::straightValues(values), extra);
+        target.InitFromStraightArray(values, extra);
         break;
     case 2:
-        window.InitFromOrderedArray(ValueLayouts::orderedRows(values), extra);
+        target.InitFromOrderedArray(values, extra);
         break;
     default:
         break;
@@ -85,8 +82,12 @@ void LUTCtl::SetValues(const VariantRows& values, std::int32_t extra, std::uint8
     loaded_ = true;
 }
 
-void LUTCtl::SetValues(const std::vector<std::array<Variant, 2>>& values, std::int32_t extra,
-                       std::uint8_t mode) {
+void LUTCtl::SetValues(LutEditor::VariantPairs values, std::int32_t extra, std::uint8_t mode) {
+    if (mode == 2) {
+        editor().InitFromOrderedArray(values, extra);
+        loaded_ = true;
+        return;
+    }
     VariantRows rows;
     rows.reserve(values.size());
     for (const std::array<Variant, 2>& row : values)

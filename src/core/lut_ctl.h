@@ -1,14 +1,13 @@
 #pragma once
 
 #include "core/clut_table.h"
-#include "editor/lut_editor_owner.h"
-#include "editor/value_layouts.h"
-#include "util/variant.h"
+#include "core/lut_editor.h"
+#include "core/lut_editor_owner.h"
 
 #include <QWidget>
 
-#include <array>
 #include <cstdint>
+#include <functional>
 #include <memory>
 #include <vector>
 
@@ -16,24 +15,23 @@ class QToolButton;
 
 namespace huebase {
 
-class LutEditorWindow;
-
 // The LUT control: a small ramp picture (IconImg) that opens the LUT editor,
 // the one editor it owns for its life, and the colour table the editor last
 // sent, which answers the colour of any value. Its container learns of a new
 // table through LUTChanged and of the user's OK through LUTDefined.
 //
-// The editor is created on first use (SetValues, showCLut, ColorArray,
-// NoDataColor or editor()) and set up in this order: the control becomes its
-// owner, it takes the built-in distribution (DefaultLUT), and its no-data
-// swatch takes the control's no-data colour.
+// The editor is made by the factory the control is given, on first use
+// (SetValues, showCLut, ColorArray, NoDataColor or editor()), and set up in
+// this order: the control becomes its owner, it takes the built-in
+// distribution (DefaultLUT), and its no-data swatch takes the control's
+// no-data colour.
 class LUTCtl : public QWidget, private LutEditorOwner {
     Q_OBJECT
 public:
-    // Rows of dynamically typed fields, as containers read their tables.
-    using VariantRows = ValueLayouts::VariantRows;
+    using VariantRows = LutEditor::VariantRows;
+    using EditorFactory = std::function<std::unique_ptr<LutEditor>()>;
 
-    explicit LUTCtl(QWidget* parent = nullptr);
+    explicit LUTCtl(EditorFactory makeEditor, QWidget* parent = nullptr);
     ~LUTCtl() override;
 
     // (value, colour) for every distinct value of the editor's distribution.
@@ -49,9 +47,9 @@ public:
     // unused). Other modes do nothing, and `loaded` becomes true in both
     // cases. Errors of the editor (9, 13, ...) reach the caller.
     void SetValues(const VariantRows& values, std::int32_t extra, std::uint8_t mode);
-    // The same for a two-column table such as the host session's.
-    void SetValues(const std::vector<std::array<Variant, 2>>& values, std::int32_t extra,
-                   std::uint8_t mode);
+    // The same for a two-column table such as the host session's, which mode
+    // 2 hands over without a copy.
+    void SetValues(LutEditor::VariantPairs values, std::int32_t extra, std::uint8_t mode);
 
     bool loaded() const noexcept { return loaded_; }
 
@@ -60,6 +58,9 @@ public:
 
     // The table as last received from the editor.
     const LutTable& getLUT() const noexcept { return clut_.table(); }
+    // That table with its row spans and the stored no-data colour: what
+    // ClutInterpolate answers from.
+    const ClutTable& colorTable() const noexcept { return clut_; }
 
     // The editor's OK: raises LUTDefined with the stored no-data colour and the table.
     void OK_Clicked() override;
@@ -69,7 +70,7 @@ public:
     ColorValue ClutInterpolate(float value) const noexcept { return clut_.ClutInterpolate(value); }
 
     // The editor, created and set up on first use.
-    LutEditorWindow& editor();
+    LutEditor& editor();
 
 signals:
     void LUTChanged(huebase::ColorValue noDataColor, const huebase::LutTable& table);
@@ -81,7 +82,8 @@ private:
     void receiveNoDataColor(ColorValue color) override;
     void resetLutTable() override;
 
-    std::unique_ptr<LutEditorWindow> editor_;
+    EditorFactory makeEditor_;
+    std::unique_ptr<LutEditor> editor_;
     ClutTable clut_;
     bool loaded_ = false;
     QToolButton* IconImg_ = nullptr;

@@ -18,6 +18,8 @@ public:
     virtual void tabsPlaced() {}
     // New colour bar slices are ready.
     virtual void colorBarPainted() {}
+    // The no-data colour changed.
+    virtual void noDataColorChanged() {}
 };
 
 } // namespace huebase

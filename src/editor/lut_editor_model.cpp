@@ -1,8 +1,8 @@
 #include "editor/lut_editor_model.h"
 
+#include "core/lut_editor_owner.h"
 #include "editor/distribution_counting.h"
 #include "editor/lut_editor_listener.h"
-#include "editor/lut_editor_owner.h"
 #include "editor/row_value_validation.h"
 #include "util/program_exit.h"
 #include "util/vb_error.h"
@@ -124,6 +124,13 @@ void LutEditorModel::SetLutTable(const LutTable& table) {
     }
     placeTabs();
     PaintColorBar();
+}
+
+void LutEditorModel::setNoDataColor(ColorValue color) {
+    if (color == noDataColor_)
+        return;
+    noDataColor_ = color;
+    notify([](LutEditorListener& listener) { listener.noDataColorChanged(); });
 }
 
 void LutEditorModel::setColor(int k, ColorValue color) {

@@ -99,6 +99,12 @@ public:
     // placed and the bar repainted.
     void offsetChanged(int k, float value);
 
+    // The colour of values above the last node, shown by the NoDataColor
+    // swatch. Setting it tells the listeners and nobody else: the owner reads
+    // it when a table is sent.
+    ColorValue noDataColor() const noexcept { return noDataColor_; }
+    void setNoDataColor(ColorValue color);
+
     // --- Colour bar ----------------------------------------------------------
     // Recomputes the slices from the rows and reads the table from them;
     // nothing while a table is loading.
@@ -167,6 +173,7 @@ private:
     NodeRows rows_;
     LutTable table_;
     ColorBarSlices colorBar_;
+    ColorValue noDataColor_ = 0;
     LutEditorOwner* owner_ = nullptr;
     std::vector<LutEditorListener*> listeners_;
     bool loading_ = false;

@@ -7,6 +7,7 @@
 #include "editor/distribution_graph.h"
 #include "editor/node_tab_strip.h"
 #include "editor/reporting_errors.h"
+#include "editor/value_layouts.h"
 #include "editor/value_rows_panel.h"
 #include "util/form_on_top.h"
 
@@ -39,10 +40,12 @@ LutEditorWindow::LutEditorWindow(QWidget* parent)
     buildControls();
     resize(980, 600);
     MiscFiles::FormOnTop(*this, true);
+    model_->addListener(this);
 }
 
 // The controls listen to the model, which must outlive them.
 LutEditorWindow::~LutEditorWindow() {
+    model_->removeListener(this);
     qDeleteAll(findChildren<QWidget*>(Qt::FindDirectChildrenOnly));
 }
 
@@ -98,6 +101,9 @@ void LutEditorWindow::buildControls() {
     NoDataColor_->setAccessibleName("NO DATA colour");
     NoDataColor_->setToolTip("Colour of values above the last node");
     Label1->setBuddy(NoDataColor_);
+    NoDataColor_->setColor(model.noDataColor());
+    connect(NoDataColor_, &ColorPicker::Changed, this,
+            guarded(this, [this](ColorValue color) { model_->setNoDataColor(color); }));
     auto* noData = new QHBoxLayout;
     noData->addWidget(Label1);
     noData->addWidget(NoDataColor_);
@@ -144,12 +150,30 @@ void LutEditorWindow::buildControls() {
     setTabOrder(GraphColorTab_, Indiv);
 }
 
-void LutEditorWindow::setNoDataColor(ColorValue color) {
-    NoDataColor_->setColor(color);
+void LutEditorWindow::InitFromOrderedArray(const VariantRows& rows, std::int32_t extra) {
+    model_->InitFromOrderedArray(ValueLayouts::orderedRows(rows), extra);
 }
 
-ColorValue LutEditorWindow::noDataColor() const {
-    return NoDataColor_->color();
+void LutEditorWindow::InitFromOrderedArray(VariantPairs rows, std::int32_t extra) {
+    model_->InitFromOrderedArray(ValueLayouts::orderedRows(rows), extra);
+}
+
+void LutEditorWindow::InitFromStraightArray(const VariantRows& values, std::int32_t noData) {
+    model_->InitFromStraightArray(ValueLayouts::straightValues(values), noData);
+}
+
+void LutEditorWindow::InitFromStdArray(const VariantRows& grid, std::int32_t extra) {
+    model_->InitFromStdArray(ValueLayouts::valueGrid(grid), extra);
+}
+
+void LutEditorWindow::showModal() {
+    setModal(true);
+    exec();
+}
+
+void LutEditorWindow::noDataColorChanged() {
+    if (NoDataColor_->color() != model_->noDataColor())
+        NoDataColor_->setColor(model_->noDataColor());
 }
 
 void LutEditorWindow::indivClicked() {

@@ -1,7 +1,9 @@
 #pragma once
 
+#include "core/lut_editor.h"
 #include "core/lut_node.h"
 #include "editor/distribution.h"
+#include "editor/lut_editor_listener.h"
 #include "editor/lut_editor_model.h"
 
 #include <QDialog>
@@ -19,7 +21,6 @@ namespace huebase {
 class ColorBarView;
 class ColorPicker;
 class DistributionGraph;
-class LutEditorOwner;
 class NodeTabStrip;
 class ValueRowsPanel;
 
@@ -28,8 +29,8 @@ class ValueRowsPanel;
 // no-data colour and the window buttons. Its state is the LutEditorModel it
 // holds; the controls show that state and hand input to it. The window
 // stays on top; closing it by its frame (or Escape) is Cancel, which ends
-// the program.
-class LutEditorWindow : public QDialog {
+// the program. It is the editor a LUT control owns.
+class LutEditorWindow : public QDialog, public LutEditor, private LutEditorListener {
     Q_OBJECT
 public:
     explicit LutEditorWindow(QWidget* parent = nullptr);
@@ -38,30 +39,26 @@ public:
     LutEditorModel& model() noexcept { return *model_; }
     const LutEditorModel& model() const noexcept { return *model_; }
 
-    // The editor's public members.
-    std::vector<float> AltiArrays() const { return model_->AltiArrays(); }
-    void setOwner(LutEditorOwner* owner) { model_->setOwner(owner); }
-    void DefaultLUT() { model_->DefaultLUT(); }
-    void InitFromOrderedArray(std::vector<DistributionRow> rows, std::int32_t unused = -1) {
-        model_->InitFromOrderedArray(std::move(rows), unused);
-    }
-    void InitFromStraightArray(std::vector<float> values, std::int32_t noData) {
-        model_->InitFromStraightArray(std::move(values), noData);
-    }
-    void InitFromStdArray(const std::vector<std::vector<float>>& grid, std::int32_t unused = -1) {
-        model_->InitFromStdArray(grid, unused);
-    }
+    // The editor's public members. The Init members read the host's fields
+    // into the model's layouts.
+    std::vector<float> AltiArrays() const override { return model_->AltiArrays(); }
+    void setOwner(LutEditorOwner* owner) override { model_->setOwner(owner); }
+    void DefaultLUT() override { model_->DefaultLUT(); }
+    void InitFromOrderedArray(const VariantRows& rows, std::int32_t extra) override;
+    void InitFromOrderedArray(VariantPairs rows, std::int32_t extra) override;
+    void InitFromStraightArray(const VariantRows& values, std::int32_t noData) override;
+    void InitFromStdArray(const VariantRows& grid, std::int32_t extra) override;
     void setPropertiesx(std::vector<DistributionRow> rows) {
         model_->setPropertiesx(std::move(rows));
     }
     LutTable sendLutTable() { return model_->sendLutTable(); }
-    // Sets the colour of the NoDataColor swatch.
-    void setNoDataColor(ColorValue color);
-    // The colour the NoDataColor swatch shows now.
-    ColorValue noDataColor() const;
-    void SetLutTable(const LutTable& table) { model_->SetLutTable(table); }
+    // The colour of the NoDataColor swatch, held by the model.
+    void setNoDataColor(ColorValue color) override { model_->setNoDataColor(color); }
+    ColorValue noDataColor() const override { return model_->noDataColor(); }
+    void SetLutTable(const LutTable& table) override { model_->SetLutTable(table); }
     float DataMin() const noexcept { return model_->DataMin(); }
     float DataMax() const noexcept { return model_->DataMax(); }
+    void showModal() override;
 
 signals:
     // OpenBrowser and cmdSave, for the library to answer.
@@ -76,6 +73,7 @@ public slots:
     void reject() override;
 
 private:
+    void noDataColorChanged() override;
     void buildControls();
     void indivClicked();
 

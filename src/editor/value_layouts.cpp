@@ -22,6 +22,14 @@ std::vector<DistributionRow> orderedRows(const VariantRows& rows) {
     return result;
 }
 
+std::vector<DistributionRow> orderedRows(std::span<const std::array<Variant, 2>> rows) {
+    std::vector<DistributionRow> result;
+    result.reserve(rows.size());
+    for (const std::array<Variant, 2>& row : rows)
+        result.push_back(DistributionRow::fromFields(row[0], row[1]));
+    return result;
+}
+
 std::vector<float> straightValues(const VariantRows& rows) {
     std::vector<float> result;
     for (const std::vector<Variant>& row : rows)

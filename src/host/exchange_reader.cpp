@@ -2,15 +2,14 @@
 
 #include "util/comma_reader.h"
 #include "util/misc_files.h"
-#include "util/text_file.h"
 #include "util/vb_numeric.h"
 
 #include <string_view>
 
 namespace huebase {
 
-void readExchangeTable(const std::string& path, ValuesTable& table) {
-    CommaReader reader = CommaReader::fromFile(path);
+void readExchangeTable(std::string text, ValuesTable& table) {
+    CommaReader reader(std::move(text));
     for (int row = 1; !reader.atEnd(); ++row) {
         Variant value = reader.readField();
         table.at(row, 1) = std::move(value);
@@ -18,11 +17,10 @@ void readExchangeTable(const std::string& path, ValuesTable& table) {
     }
 }
 
-std::int16_t exchangeRowCount(const std::string& path) {
-    const std::string text = readTextFile(path);
+std::int16_t exchangeRowCount(std::string_view text) {
     const std::size_t last = text.find_last_not_of(" \t\r\n");
-    const std::size_t length = last == std::string::npos ? 0 : last + 1;
-    return checkedInt16(MiscFiles::lineCount(std::string_view(text).substr(0, length)));
+    const std::size_t length = last == std::string_view::npos ? 0 : last + 1;
+    return checkedInt16(MiscFiles::lineCount(text.substr(0, length)));
 }
 
 } // namespace huebase

@@ -4,10 +4,11 @@
 
 #include <cstdint>
 #include <string>
+#include <string_view>
 
 namespace huebase {
 
-// Fills the table from an exchange file ("col.tmp", "lut.tmp"): row 1
+// Fills the table from the text of an exchange file ("col.tmp", "lut.tmp"): row 1
 // onward, two fields a row, until the end of the file, with the classic
 // sequential comma-delimited input (see CommaReader).
 //
@@ -20,16 +21,15 @@ namespace huebase {
 //   error 62 (Input past end of file);
 // - fields left over once every row is filled ask for a row past the table's
 //   size: error 9 (Subscript out of range).
-// Rows the file does not reach stay Empty. File errors are those of
-// readTextFile (53 for a missing file, ...). Rows filled before an error keep
+// Rows the file does not reach stay Empty. Rows filled before an error keep
 // their fields.
-void readExchangeTable(const std::string& path, ValuesTable& table);
+void readExchangeTable(std::string text, ValuesTable& table);
 
-// The number of rows of an exchange file: its lines, as
+// The number of rows of an exchange file's text: its lines, as
 // MiscFiles::getFileLineNumber counts them, less the blank lines (empty or
 // only spaces and tabs) at its end, which hold no field. Sizing a table to it
-// leaves no Empty row behind the last record. File errors as readTextFile;
-// more than 32,767 rows is error 6 (Overflow).
-std::int16_t exchangeRowCount(const std::string& path);
+// leaves no Empty row behind the last record. More than 32,767 rows is error
+// 6 (Overflow).
+std::int16_t exchangeRowCount(std::string_view text);
 
 } // namespace huebase

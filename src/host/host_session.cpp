@@ -13,21 +13,6 @@
 
 namespace huebase {
 
-namespace {
-// The export table's row count. A file that cannot be read has no rows: the
-// reading that follows fails on it and is reported like every other export
-// table that cannot be read. Too many lines stay error 6.
-int exportRowCount(const std::string& path) {
-    try {
-        return exchangeRowCount(path);
-    } catch (const VbError& error) {
-        if (error.number() == VbError::Overflow)
-            throw;
-        return 0;
-    }
-}
-} // namespace
-
 HostSession::HostSession(std::string folder, HostNotifier& notifier)
     : folder_(std::move(folder)), notifier_(notifier) {}
 
@@ -39,29 +24,31 @@ std::string HostSession::lutPath() const {
     return folder_ + "\\lut.tmp";
 }
 
-std::optional<ValuesTable> HostSession::start() {
+const ValuesTable* HostSession::start() {
     const std::string path = colPath();
     if (!MiscFiles::FileExists(path)) {
         endProgram(0);
-        return std::nullopt;
+        return nullptr;
     }
     readError_.reset();
+    std::string text;
     try {
-        sizeInputArray(exchangeRowCount(path));
+        text = readTextFile(path);
+        sizeInputArray(exchangeRowCount(text));
     } catch (const VbError& error) {
         readError_ = error;
     }
-    if (readError_ || !GetOrderedFile(path)) {
+    if (readError_ || !fillFromText(std::move(text), input_)) {
         showMessage(readError_->message());
         endProgram(kStartFailedExitCode);
-        return std::nullopt;
+        return nullptr;
     }
-    return input_;
+    return &input_;
 }
 
-void HostSession::answerDefined(const ColorLookup& lookup) {
+void HostSession::answerDefined(const ClutTable& colors) {
     try {
-        answerSteps(lookup);
+        answerSteps(colors);
     } catch (const VbError& error) {
         showMessage(error.message());
         NotifyHost(-1);
@@ -69,13 +56,12 @@ void HostSession::answerDefined(const ColorLookup& lookup) {
     endProgram(0);
 }
 
-void HostSession::answerSteps(const ColorLookup& lookup) {
-    colorInputRows(lookup);
+void HostSession::answerSteps(const ClutTable& colors) {
+    colorInputRows(colors);
     const std::string path = lutPath();
     if (!MiscFiles::FileExists(path))
         return;
-    output_ = ValuesTable(exportRowCount(path));
-    if (!GetOutPutFile(path)) {
+    if (!readExportTable(path)) {
         showMessage("Can't find export values table");
         NotifyHost(-1);
         return;
@@ -89,19 +75,39 @@ void HostSession::answerSteps(const ColorLookup& lookup) {
     NotifyHost(writeTextFile(path, answer) ? 0 : -1);
 }
 
-void HostSession::colorInputRows(const ColorLookup& lookup) {
-    for (int row = 1; row <= input_.rows(); ++row) {
-        Variant& color = input_.at(row, 2);
-        color = Variant(static_cast<double>(lookup(toSingle(input_.at(row, 1).toNumber()))));
-        color = Variant(static_cast<double>(hostColor(toInt32(color.toNumber()))));
+void HostSession::colorInputRows(const ClutTable& colors) {
+    hostColors_.clear();
+    hostColors_.reserve(input_.data().size());
+    for (ValuesTable::Row& row : input_.data()) {
+        const std::int32_t color = hostColor(colors.ClutInterpolate(toSingle(row[0].toNumber())));
+        row[1] = Variant(static_cast<double>(color));
+        hostColors_.push_back(color);
     }
 }
 
-std::string HostSession::exportText() {
+bool HostSession::readExportTable(const std::string& path) {
     std::string text;
-    for (int row = 1; row <= output_.rows(); ++row) {
-        const std::int32_t color = FindColorInInputArrayFromValue(output_.at(row, 1));
-        (text += exportLine(output_.at(row, 2), color)) += MiscFiles::kLineEnd;
+    try {
+        text = readTextFile(path);
+    } catch (const VbError& error) {
+        readError_ = error;
+        return false;
+    }
+    output_ = ValuesTable(exchangeRowCount(text));
+    return fillFromText(std::move(text), output_);
+}
+
+std::string HostSession::exportText() {
+    if (!index_)
+        index_.emplace(input_);
+    const char separator = localeDecimalSeparator();
+    std::string text;
+    text.reserve(static_cast<std::size_t>(output_.rows()) * 24);
+    for (const ValuesTable::Row& row : output_.data()) {
+        const int inputRow = index_->lastEqualRow(row[0]);
+        const std::int32_t color =
+            inputRow == 0 ? 0 : hostColors_[static_cast<std::size_t>(inputRow - 1)];
+        (text += exportLine(row[1], color, separator)) += MiscFiles::kLineEnd;
     }
     return text;
 }
@@ -116,9 +122,20 @@ bool HostSession::GetOutPutFile(const std::string& path) {
 }
 
 bool HostSession::fill(const std::string& path, ValuesTable& table) {
+    std::string text;
+    try {
+        text = readTextFile(path);
+    } catch (const VbError& error) {
+        readError_ = error;
+        return false;
+    }
+    return fillFromText(std::move(text), table);
+}
+
+bool HostSession::fillFromText(std::string text, ValuesTable& table) {
     readError_.reset();
     try {
-        readExchangeTable(path, table);
+        readExchangeTable(std::move(text), table);
         return true;
     } catch (const VbError& error) {
         readError_ = error;

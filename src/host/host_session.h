@@ -1,5 +1,6 @@
 #pragma once
 
+#include "core/clut_table.h"
 #include "core/color_value.h"
 #include "host/host_notifier.h"
 #include "host/value_index.h"
@@ -7,9 +8,9 @@
 #include "util/vb_error.h"
 
 #include <cstdint>
-#include <functional>
 #include <optional>
 #include <string>
+#include <vector>
 
 namespace huebase {
 
@@ -22,10 +23,6 @@ namespace huebase {
 // operation returns right after calling it.
 class HostSession {
 public:
-    // The colour of a value under the table the user defined (the LUT
-    // control's ClutInterpolate).
-    using ColorLookup = std::function<ColorValue(float value)>;
-
     // Exit code of the program when "col.tmp" cannot be read at start.
     static constexpr int kStartFailedExitCode = 1;
 
@@ -42,11 +39,13 @@ public:
     // (more than 32,767 lines, records that do not fit the rows, an unreadable file) the message
     // "Error: N. description" is shown and the program ends with
     // kStartFailedExitCode, the host not told. Answers the table to hand to
-    // the LUT control (SetValues(table, -1, 2)), or nothing once ended.
-    std::optional<ValuesTable> start();
+    // the LUT control (SetValues(table, -1, 2)), or null once ended. The file
+    // is read once.
+    const ValuesTable* start();
 
-    // The answer to the control's LUTDefined: colours the input rows through
-    // lookup, rewrites "lut.tmp", tells the host and ends the program.
+    // The answer to the control's LUTDefined: colours the input rows with the
+    // control's colour table (its ClutInterpolate), rewrites "lut.tmp", tells
+    // the host and ends the program.
     // "lut.tmp" is deleted and written again from its start (truncated when
     // it cannot be deleted); an empty table leaves an empty file.
     // - "lut.tmp" missing or no regular file: ends silently, the host not told;
@@ -55,7 +54,7 @@ public:
     // - the new file cannot be written: -1G;
     // - any run-time error: "Error: N. description", then -1G;
     // - otherwise 0G.
-    void answerDefined(const ColorLookup& lookup);
+    void answerDefined(const ClutTable& colors);
 
     // Fill the input (output) values table from the file, row 1 onward, as
     // readExchangeTable; the table keeps the size it was given. True when the
@@ -66,8 +65,9 @@ public:
     const std::optional<VbError>& lastReadError() const noexcept { return readError_; }
 
     // Column 2 of the last input row whose column 1 equals value, converted
-    // to a 32-bit integer; 0 when no row does. Served from an index built once
-    // per filling of the input table.
+    // to a 32-bit integer (the host colour once the rows are coloured); 0
+    // when no row does. Served from an index built once per filling of the
+    // input table.
     std::int32_t FindColorInInputArrayFromValue(const Variant& value);
 
     // The floor of value * 100 / total as a 16-bit integer (1 of 3 gives 33,
@@ -82,11 +82,16 @@ public:
     const ValuesTable& OutputArray() const noexcept { return output_; }
 
 private:
-    void answerSteps(const ColorLookup& lookup);
-    void colorInputRows(const ColorLookup& lookup);
+    void answerSteps(const ClutTable& colors);
+    void colorInputRows(const ClutTable& colors);
+    // Reads "lut.tmp" once into the output table, sized to its rows. False
+    // when it cannot be read or its records do not fit; too many rows is
+    // error 6.
+    bool readExportTable(const std::string& path);
     // The rewritten "lut.tmp": one line per output row, in row order.
     std::string exportText();
     bool fill(const std::string& path, ValuesTable& table);
+    bool fillFromText(std::string text, ValuesTable& table);
     // Tells the host; when it cannot be reached, says so. Does not end the
     // program: its callers do.
     void NotifyHost(std::int32_t code);
@@ -96,6 +101,8 @@ private:
     ValuesTable input_;
     ValuesTable output_;
     std::optional<ValueIndex> index_;
+    // The host colour of each input row once coloured, as the answer reads them.
+    std::vector<std::int32_t> hostColors_;
     std::optional<VbError> readError_;
 };
 

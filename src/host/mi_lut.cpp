@@ -4,6 +4,7 @@
 
 #include "color/color_picker.h"
 #include "core/lut_ctl.h"
+#include "editor/lut_editor_window.h"
 #include "host/library_link.h"
 #include "util/messages.h"
 #include "util/program_exit.h"
@@ -20,7 +21,14 @@ MILut::MILut(std::string programFolder, HostNotifier& notifier, QWidget* parent)
     setObjectName("MILut");
     setWindowTitle("Huebase");
 
-    LUTCtl1_ = new LUTCtl(this);
+    // The control owns its editor; the window knows where the library is.
+    LUTCtl1_ = new LUTCtl(
+        [this] {
+            auto editor = std::make_unique<LutEditorWindow>();
+            linkLibrary(*editor, folder_);
+            return editor;
+        },
+        this);
     LUTCtl1_->setObjectName("LUTCtl1");
     ColorPicker_ = new ColorPicker(this);
     ColorPicker_->setObjectName("ColorPicker");
@@ -41,7 +49,6 @@ MILut::MILut(std::string programFolder, HostNotifier& notifier, QWidget* parent)
 
     connect(LUTCtl1_, &LUTCtl::LUTDefined, this, &MILut::LUTCtl1_LUTDefined);
     connect(OK_, &QPushButton::clicked, this, guarded(this, &MILut::OK_Click));
-    linkLibrary(LUTCtl1_->editor(), folder_);
 }
 
 MILut::~MILut() = default;
@@ -52,7 +59,7 @@ void MILut::Form_Load() {
 }
 
 bool MILut::loadValues() {
-    const std::optional<ValuesTable> table = session_.start();
+    const ValuesTable* table = session_.start();
     if (!table)
         return false;
     try {
@@ -66,7 +73,7 @@ bool MILut::loadValues() {
 }
 
 void MILut::LUTCtl1_LUTDefined() {
-    session_.answerDefined([this](float value) { return LUTCtl1_->ClutInterpolate(value); });
+    session_.answerDefined(LUTCtl1_->colorTable());
 }
 
 void MILut::OK_Click() {

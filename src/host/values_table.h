@@ -28,6 +28,7 @@ public:
 
     // Row k of the table is element k - 1.
     const std::vector<Row>& data() const noexcept { return rows_; }
+    std::vector<Row>& data() noexcept { return rows_; }
 
 private:
     std::vector<Row> rows_;

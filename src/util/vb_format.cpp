@@ -6,6 +6,7 @@
 #include <charconv>
 #include <clocale>
 #include <cmath>
+#include <cstdint>
 #include <cstdlib>
 #include <string_view>
 
@@ -102,6 +103,21 @@ char localeDecimalSeparator() {
 std::string formatFixed(double value, char decimalSeparator) {
     if (!std::isfinite(value))
         throw VbError(VbError::Overflow);
+    // A whole number below 10^15 keeps every digit among the fifteen, so it
+    // needs no rounding: the common case of counts, keys and host colours,
+    // written tens of thousands of times per answer.
+    if (std::abs(value) < 1e15 && value == std::trunc(value)) {
+        char buffer[24];
+        char* end = buffer;
+        if (value < 0)
+            *end++ = '-';
+        end = std::to_chars(end, buffer + sizeof buffer, static_cast<std::int64_t>(std::abs(value)))
+                  .ptr;
+        *end++ = decimalSeparator;
+        *end++ = '0';
+        *end++ = '0';
+        return std::string(buffer, end);
+    }
     Decimal d = toDecimal(value, 14);
     d.roundTo(d.exponent + 3); // the digit of 10^-2 is the last one kept
     std::string out;

@@ -32,7 +32,7 @@ TEST(EditorHandOver, CancelHandsOverNothingAndSelectHandsTheCutTableAndNoDataCol
                      testing::tableAt({0, 100, 200}, {kBlack, kWhite, kBlack}), kRed);
 
     LutEditorWindow editor;
-    editor.InitFromOrderedArray({{50.0f, 3}, {80.0f, 1}, {150.0f, 2}});
+    editor.model().InitFromOrderedArray({{50.0f, 3}, {80.0f, 1}, {150.0f, 2}});
     ASSERT_EQ(editor.DataMin(), 50.0f);
     ASSERT_EQ(editor.DataMax(), 150.0f);
 

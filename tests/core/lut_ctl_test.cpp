@@ -32,17 +32,19 @@ struct Control {
             defined.push_back({c, t});
         });
     }
+    // The window the control made on first use.
+    LutEditorWindow& editor() { return dynamic_cast<LutEditorWindow&>(ctl.editor()); }
     void click(const char* button) {
-        QTest::mouseClick(ctl.editor().findChild<QPushButton*>(button), Qt::LeftButton);
+        QTest::mouseClick(editor().findChild<QPushButton*>(button), Qt::LeftButton);
     }
     std::vector<float> nodeValues() {
         std::vector<float> values;
-        for (const NodeRow& row : ctl.editor().model().rows().all())
+        for (const NodeRow& row : editor().model().rows().all())
             values.push_back(row.value);
         return values;
     }
 
-    LUTCtl ctl;
+    LUTCtl ctl{[] { return std::make_unique<LutEditorWindow>(); }};
     std::vector<Event> changed;
     std::vector<Event> defined;
 };
@@ -53,7 +55,7 @@ TEST(LUTCtl, CreatesOneEditorOnFirstUseWithTheBuiltInDistribution) {
     Control c;
     EXPECT_TRUE(c.ctl.getLUT().empty());
     EXPECT_EQ(c.ctl.ClutInterpolate(10.0f), 0);
-    EXPECT_EQ(c.ctl.editor().AltiArrays(), (std::vector<float>{0, 100, 200}));
+    EXPECT_EQ(c.editor().AltiArrays(), (std::vector<float>{0, 100, 200}));
     ASSERT_EQ(c.changed.size(), 1u);
     EXPECT_EQ(c.changed[0].table, c.ctl.getLUT());
     ASSERT_EQ(c.ctl.getLUT().size(), 2u);
@@ -77,11 +79,12 @@ TEST(LUTCtl, SetValuesHandsEachLayoutToTheEditor) {
         Control c;
         c.ctl.SetValues(row.values, row.extra, row.mode);
         EXPECT_TRUE(c.ctl.loaded());
-        EXPECT_EQ(c.ctl.editor().AltiArrays(), row.altitudes) << int(row.mode);
+        EXPECT_EQ(c.editor().AltiArrays(), row.altitudes) << int(row.mode);
     }
     Control hostTable;
-    hostTable.ctl.SetValues(std::vector<std::array<Variant, 2>>{{5, 1}, {9, 2}}, -1, 2);
-    EXPECT_EQ(hostTable.ctl.editor().AltiArrays(), (std::vector<float>{5, 9}));
+    const std::vector<std::array<Variant, 2>> pairs{{5, 1}, {9, 2}};
+    hostTable.ctl.SetValues(pairs, -1, 2);
+    EXPECT_EQ(hostTable.editor().AltiArrays(), (std::vector<float>{5, 9}));
 }
 
 TEST(LUTCtl, TheIconOpensTheEditorModallyAndItsOkDefinesTheTableThatColoursEveryValue) {
@@ -95,7 +98,7 @@ TEST(LUTCtl, TheIconOpensTheEditorModallyAndItsOkDefinesTheTableThatColoursEvery
     });
     QTest::mouseClick(c.ctl.findChild<QToolButton*>("IconImg"), Qt::LeftButton);
     EXPECT_TRUE(modal);
-    EXPECT_FALSE(c.ctl.editor().isVisible());
+    EXPECT_FALSE(c.editor().isVisible());
     EXPECT_FALSE(services.ended());
     ASSERT_EQ(c.defined.size(), 1u);
     EXPECT_EQ(c.defined[0].table, c.ctl.getLUT());
@@ -109,10 +112,10 @@ TEST(LUTCtl, TheIconOpensTheEditorModallyAndItsOkDefinesTheTableThatColoursEvery
 TEST(LUTCtl, NoDataColourIsReadLiveAndStoredWithTheNextTable) {
     Control c;
     c.ctl.SetValues(kElevations, -1, 2);
-    c.ctl.editor().findChild<ColorPicker*>("NoDataColor")->setColor(0x3366FF);
+    c.editor().findChild<ColorPicker*>("NoDataColor")->setColor(0x3366FF);
     EXPECT_EQ(c.ctl.NoDataColor(), 0x3366FF);
     EXPECT_EQ(c.ctl.ClutInterpolate(400.0f), 0) << "stored colour unchanged until a table comes";
-    c.ctl.editor().sendLutTable();
+    c.editor().sendLutTable();
     EXPECT_EQ(c.changed.back().noData, 0x3366FF);
     EXPECT_EQ(c.ctl.ClutInterpolate(400.0f), 0x3366FF);
     c.ctl.OK_Clicked();
@@ -123,14 +126,14 @@ TEST(LUTCtl, ResetGivesTheHeldTableBackAndOkSendsTheEditedOneBeforeDefiningIt) {
     testing::ServiceRecorder services;
     Control c;
     c.ctl.SetValues(kElevations, -1, 2);
-    c.ctl.editor().show();
-    c.ctl.editor().model().releaseOnGraph(100.0f, MouseButton::Left);
-    c.ctl.editor().model().releaseOnGraph(200.0f, MouseButton::Left);
+    c.editor().show();
+    c.editor().model().releaseOnGraph(100.0f, MouseButton::Left);
+    c.editor().model().releaseOnGraph(200.0f, MouseButton::Left);
     ASSERT_EQ(c.nodeValues().size(), 4u);
     c.click("Command1");
     EXPECT_EQ(c.nodeValues(), (std::vector<float>{-12.5f, 310.0f}));
-    EXPECT_TRUE(c.ctl.editor().isVisible());
-    c.ctl.editor().model().releaseOnGraph(150.0f, MouseButton::Left);
+    EXPECT_TRUE(c.editor().isVisible());
+    c.editor().model().releaseOnGraph(150.0f, MouseButton::Left);
     c.click("OK");
     ASSERT_EQ(c.defined.size(), 1u);
     EXPECT_EQ(c.defined[0].table.size(), 3u);
@@ -141,14 +144,14 @@ TEST(LUTCtl, ResetGivesTheHeldTableBackAndOkSendsTheEditedOneBeforeDefiningIt) {
 TEST(LUTCtl, CancelClosingAndEscapeResetTheEditorThenEndTheProgram) {
     const std::function<void(Control&)> ways[] = {
         [](Control& c) { c.click("Cancel"); },
-        [](Control& c) { c.ctl.editor().close(); },
-        [](Control& c) { QTest::keyClick(&c.ctl.editor(), Qt::Key_Escape); },
+        [](Control& c) { c.editor().close(); },
+        [](Control& c) { QTest::keyClick(&c.editor(), Qt::Key_Escape); },
     };
     for (const auto& leave : ways) {
         testing::ServiceRecorder services;
         Control c;
-        c.ctl.editor().show();
-        c.ctl.editor().model().releaseOnGraph(50.0f, MouseButton::Left);
+        c.editor().show();
+        c.editor().model().releaseOnGraph(50.0f, MouseButton::Left);
         leave(c);
         EXPECT_EQ(services.exitCodes(), std::vector<int>{0});
         EXPECT_EQ(c.nodeValues(), (std::vector<float>{0, 200})) << "reset before the end";

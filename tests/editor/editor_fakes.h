@@ -2,7 +2,7 @@
 
 #include "editor/lut_editor_listener.h"
 #include "editor/lut_editor_model.h"
-#include "editor/lut_editor_owner.h"
+#include "core/lut_editor_owner.h"
 
 #include <vector>
 

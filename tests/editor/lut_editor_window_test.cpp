@@ -201,7 +201,7 @@ TEST(LutEditorWindow, ColourBarPixelsAreTheComputedSlices) {
 
 TEST(LutEditorWindow, IndividualValuesMakesEveryDistinctValueANode) {
     ShownEditor e;
-    e.window.InitFromOrderedArray({{10, 3}, {12, 1}, {17, 9}, {30, 2}, {42, 5}});
+    e.model().InitFromOrderedArray({{10, 3}, {12, 1}, {17, 9}, {30, 2}, {42, 5}});
     QTest::mouseClick(&e.find<QPushButton>("Indiv"), Qt::LeftButton);
     EXPECT_EQ(e.values(), (std::vector<float>{10, 12, 17, 30, 42}));
     EXPECT_EQ(e.model().lutTable().size(), 5u) << "the bar was repainted";

@@ -16,6 +16,7 @@
 #include "browser/lut_browser.h"
 #include "browser/lut_library.h"
 #include "host/host_session.h"
+#include "support/flat_colors.h"
 #include "util/messages.h"
 #include "util/program_exit.h"
 
@@ -56,7 +57,7 @@ int answer(const std::string& folder) {
     PrintingNotifier notifier;
     HostSession session(folder, notifier);
     if (session.start())
-        session.answerDefined([](float) { return ColorValue{0x0000FF}; });
+        session.answerDefined(huebase::testing::oneColor(0x0000FF));
     return 0;
 }
 

@@ -8,6 +8,7 @@
 // root. A full disk is a small tmpfs where mounting works, and an LD_PRELOAD
 // shim that fails writes elsewhere.
 #include "host/host_session.h"
+#include "support/flat_colors.h"
 
 #include "support/recording_notifier.h"
 #include "support/scratch_folder.h"
@@ -390,7 +391,7 @@ TEST(FailureInjection, LutTmpGoneOrNoFileAtOkEndsSilentlyWithoutWaiting) {
                 close(fd);
             }
         });
-        session.answerDefined([](float) { return ColorValue{0x0000FF}; });
+        session.answerDefined(huebase::testing::oneColor(0x0000FF));
         answered = true;
         watchdog.join();
         EXPECT_FALSE(waited) << "the answer waited on the FIFO";

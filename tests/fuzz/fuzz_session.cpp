@@ -106,7 +106,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     testing::ServiceRecorder services;
     RecordingNotifier notifier;
     HostSession session(folder().file(""), notifier);
-    const std::optional<ValuesTable> table = session.start();
+    const ValuesTable* table = session.start();
     if (!table) {
         FUZZ_CHECK(services.exitCodes() == std::vector<int>{HostSession::kStartFailedExitCode});
         FUZZ_CHECK(services.messages().size() == 1);
@@ -116,7 +116,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     FUZZ_CHECK(!services.ended() && services.messages().empty());
     FUZZ_CHECK(table->rows() <= 32767);
 
-    session.answerDefined([](float value) { return ramp().ClutInterpolate(value); });
+    session.answerDefined(ramp());
     FUZZ_CHECK(services.exitCodes() == std::vector<int>{0});
     if (!input.separated) {
         FUZZ_CHECK(!std::filesystem::exists(lutPath));

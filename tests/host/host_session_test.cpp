@@ -3,6 +3,7 @@
 #include "host/value_index.h"
 #include "util/misc_files.h"
 
+#include "support/flat_colors.h"
 #include "support/numeric_locale.h"
 #include "support/recording_notifier.h"
 #include "support/scratch_folder.h"
@@ -26,6 +27,7 @@ namespace {
 constexpr ColorValue kRed = 0x0000FF, kGreen = 0x00FF00, kBlue = 0xFF0000;
 using Texts = std::vector<std::string>;
 
+using testing::flatColors;
 using testing::RecordingNotifier;
 
 // A session on a scratch folder holding the exchange files given.
@@ -116,7 +118,7 @@ TEST(HostSessionStart, ReadsColTmpOneRowPerLineOrEndsTheProgram) {
     for (const auto& c : cases) {
         SCOPED_TRACE(c.col ? c.col->substr(0, 40) : "no col.tmp");
         Session s(c.col);
-        const std::optional<ValuesTable> table = s.session.start();
+        const ValuesTable* table = s.session.start();
         EXPECT_EQ(table ? render(*table) : "ended", c.exits.empty() ? c.rows : "ended");
         EXPECT_EQ(render(s.session.InputArray()), c.rows);
         EXPECT_EQ(s.messages(), c.messages);
@@ -129,14 +131,9 @@ TEST(HostSessionAnswer, RewritesLutTmpInRowOrderWithTheLastEqualValuesHostColour
     Session s("0.1,1\n10,4\n20,5\n10,6\n\"30\",1\n",
               "30,7\n10,8\n99,-3.456\n10,8\n20,\" 42\"\n\"30\",\"road\"\n0.1,\n");
     ASSERT_TRUE(s.session.start());
-    // A colour per call tells equal values on different rows apart.
-    const std::vector<ColorValue> byCall{kGreen, kGreen, kBlue, kRed, kGreen};
-    std::vector<float> asked;
-    s.session.answerDefined([&](float value) {
-        asked.push_back(value);
-        return byCall.at(asked.size() - 1);
-    });
-    EXPECT_EQ(asked, (std::vector<float>{0.1f, 10, 20, 10, 30}));
+    // The text "30" of col.tmp is coloured as the number 30, but only the
+    // text "30" of lut.tmp finds it.
+    s.session.answerDefined(flatColors({{0.1f, kGreen}, {10, kRed}, {20, kBlue}, {30, kGreen}}));
     std::string expected;
     for (const char* line : {"7.00,0.00", "8.00,16711680.00", "-3.46,0.00", "8.00,16711680.00",
                              "42.00,255.00", "road,65280.00", ",65280.00"})
@@ -150,7 +147,7 @@ TEST(HostSessionAnswer, RewritesLutTmpInRowOrderWithTheLastEqualValuesHostColour
 TEST(HostSessionAnswer, BlankLinesAtTheEndAreNoRowsAndAnEmptyTableLeavesAnEmptyFile) {
     // Pure red at the highest value, black below: a DataMax taken from an
     // Empty row past the last record would colour 100 black.
-    const HostSession::ColorLookup ramp = [](float value) { return value >= 100 ? kRed : 0; };
+    const ClutTable ramp = flatColors({{100, kRed}});
     const std::string end(MiscFiles::kLineEnd);
     const std::pair<const char*, std::string> cases[] = {
         {"0,1\n100,2\n\n", "1.00,0.00" + end + "2.00,16711680.00" + end},
@@ -161,7 +158,7 @@ TEST(HostSessionAnswer, BlankLinesAtTheEndAreNoRowsAndAnEmptyTableLeavesAnEmptyF
     for (const auto& [lut, answer] : cases) {
         SCOPED_TRACE(lut);
         Session s("0,1\n100,1\n\n", lut);
-        const std::optional<ValuesTable> table = s.session.start();
+        const ValuesTable* table = s.session.start();
         ASSERT_TRUE(table);
         EXPECT_EQ(render(*table), "0|1;100|1;");
         s.session.answerDefined(ramp);
@@ -175,15 +172,12 @@ TEST(HostSessionAnswer, FailuresAreShownAndToldAsMinusOneLeavingLutTmp) {
     std::string tooLong;
     for (int i = 0; i < 32768; ++i)
         tooLong += "1,1\n";
-    const HostSession::ColorLookup red = [](float) { return kRed; };
-    const HostSession::ColorLookup tooBright = [](float) { return 0x01000000; };
-    const HostSession::ColorLookup throwing = [](float) -> ColorValue {
-        throw VbError(VbError::DivisionByZero);
-    };
+    const ClutTable red = testing::oneColor(kRed);
+    const ClutTable tooBright = flatColors({{0, 0}}, 0x01000000);
     const struct {
         std::string col;
         std::optional<std::string> lut;
-        HostSession::ColorLookup lookup;
+        const ClutTable& colors;
         Texts messages;
         Texts statuses;
         bool reachable = true;
@@ -194,7 +188,6 @@ TEST(HostSessionAnswer, FailuresAreShownAndToldAsMinusOneLeavingLutTmp) {
         {"1e39,1\n", "1,1\n", red, {"Error: 6. Overflow"}, {"-1G"}},
         {"1,1\n", "1,1\n", tooBright, {"Error: 6. Overflow"}, {"-1G"}},
         {"1,1\n", tooLong, red, {"Error: 6. Overflow"}, {"-1G"}},
-        {"1,1\n", "1,1\n", throwing, {"Error: 11. Division by zero"}, {"-1G"}},
         {"1,1\n", "1,1\n", tooBright, {"Error: 6. Overflow", "gone /Problem !"}, {"-1G"}, false},
     };
     int row = 0;
@@ -203,7 +196,7 @@ TEST(HostSessionAnswer, FailuresAreShownAndToldAsMinusOneLeavingLutTmp) {
         Session s(c.col, c.lut);
         s.notifier.reachable = c.reachable;
         ASSERT_TRUE(s.session.start());
-        s.session.answerDefined(c.lookup);
+        s.session.answerDefined(c.colors);
         EXPECT_EQ(s.lut(), c.lut);
         EXPECT_EQ(s.notifier.statuses, c.statuses);
         EXPECT_EQ(s.services.exitCodes(), std::vector<int>{0});
@@ -222,7 +215,7 @@ TEST(HostSessionAnswer, AFailedAppendIsToldAsMinusOneWithoutAMessage) {
     limit.rlim_cur = 16;
     const auto handler = std::signal(SIGXFSZ, SIG_IGN);
     setrlimit(RLIMIT_FSIZE, &limit);
-    s.session.answerDefined([](float) { return kRed; });
+    s.session.answerDefined(testing::oneColor(kRed));
     setrlimit(RLIMIT_FSIZE, &previous);
     std::signal(SIGXFSZ, handler);
     EXPECT_EQ(s.notifier.statuses, Texts{"-1G"});

@@ -45,7 +45,7 @@ protected:
         text << std::ifstream(folder_.path() / name, std::ios::binary).rdbuf();
         return text.str();
     }
-    LutEditorWindow& editor() { return window_.LUTCtl1().editor(); }
+    LutEditorWindow& editor() { return dynamic_cast<LutEditorWindow&>(window_.LUTCtl1().editor()); }
 
     testing::ScratchFolder folder_;
     testing::ServiceRecorder services_;

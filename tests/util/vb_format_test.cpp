@@ -18,11 +18,23 @@ using testing::errorNumberOf;
 
 TEST(FormatFixed, TwoDecimalsRoundedHalfAwayFromZeroAtFifteenDigits) {
     // 2.675 lies just below the tie in binary, 0.125 is an exact tie; carries
-    // make new digits, and a zero result has no sign.
+    // make new digits, and a zero result has no sign. Whole numbers keep all
+    // their digits below 10^15 and are rounded to fifteen above.
     const std::pair<double, const char*> rows[] = {
-        {12, "12.00"},    {-0.5, "-0.50"}, {0.07, "0.07"},    {1234567.891, "1234567.89"},
-        {2.675, "2.68"},  {0.125, "0.13"}, {-0.125, "-0.13"}, {-999.996, "-1000.00"},
-        {-0.004, "0.00"}, {-0.0, "0.00"}};
+        {12, "12.00"},
+        {-0.5, "-0.50"},
+        {0.07, "0.07"},
+        {1234567.891, "1234567.89"},
+        {2.675, "2.68"},
+        {0.125, "0.13"},
+        {-0.125, "-0.13"},
+        {-999.996, "-1000.00"},
+        {-0.004, "0.00"},
+        {-0.0, "0.00"},
+        {-16777215, "-16777215.00"},
+        {999999999999999, "999999999999999.00"},
+        {1e15, "1000000000000000.00"},
+        {1234567890123456789.0, "1234567890123460000.00"}};
     for (const auto& [value, text] : rows)
         EXPECT_EQ(formatFixed(value, '.'), text) << value;
     EXPECT_EQ(formatFixed(1e20, '.'), "100000000000000000000.00");
