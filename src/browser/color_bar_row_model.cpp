@@ -6,6 +6,7 @@
 #include "util/vb_format.h"
 
 #include <algorithm>
+#include <utility>
 
 namespace huebase {
 
@@ -14,6 +15,14 @@ std::optional<float> numberIn(std::string text) {
     std::replace(text.begin(), text.end(), localeDecimalSeparator(), '.');
     try {
         return static_cast<float>(Variant(std::move(text)).toNumber());
+    } catch (const VbError&) {
+        return std::nullopt;
+    }
+}
+
+std::optional<LutNode> nodeOf(const LutRecord& record) {
+    try {
+        return toNode(record);
     } catch (const VbError&) {
         return std::nullopt;
     }
@@ -162,11 +171,19 @@ std::optional<std::pair<float, float>> ColorBarRowModel::barScale() const {
     return std::pair{*left, *right};
 }
 
-std::vector<BarSlice> ColorBarRowModel::barSlices() const {
+std::vector<ColorSlice> ColorBarRowModel::barSlices() const {
     const auto scale = barScale();
     if (!scale)
         return {};
-    return huebase::barSlices(fit_.lut, scale->first, scale->second);
+    ColorBarSlices bar(scale->first, scale->second, SliceSpan::Shown);
+    const LutRecords& lut = fit_.lut;
+    std::optional<LutNode> high = lut.empty() ? std::nullopt : nodeOf(lut.front());
+    for (std::size_t i = 0; i + 1 < lut.size(); ++i) {
+        const std::optional<LutNode> low = std::exchange(high, nodeOf(lut[i + 1]));
+        if (low && high)
+            bar.addInterval(*low, *high);
+    }
+    return bar.slices();
 }
 
 std::string ColorBarRowModel::readoutText(double fraction) const {

@@ -1,10 +1,10 @@
 #pragma once
 
-#include "browser/bar_slices.h"
 #include "browser/lut_fitting.h"
 #include "browser/lut_record.h"
 #include "browser/lut_selection.h"
 #include "browser/row_properties.h"
+#include "core/color_bar_slices.h"
 #include "core/color_value.h"
 
 #include <cstdint>
@@ -90,8 +90,10 @@ public:
     // bound texts (either decimal separator), or from the table's first and
     // last values where a text is no number. Nothing when neither is known.
     std::optional<std::pair<float, float>> barScale() const;
-    // The boxes painting the fitted table over the bar's scale.
-    std::vector<BarSlice> barSlices() const;
+    // The boxes painting the fitted table over the bar's scale: only those
+    // meeting the scale, and never an error. An interval whose records do
+    // not convert to nodes is skipped.
+    std::vector<ColorSlice> barSlices() const;
     // The bar's tooltip for the pointer at `fraction` (0 left, 1 right) of
     // the bar's width: the data value there in "Fixed" ("3.50"); empty when
     // the scale is unknown.

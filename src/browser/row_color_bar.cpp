@@ -1,6 +1,7 @@
 #include "browser/row_color_bar.h"
 
 #include "browser/color_bar_row_model.h"
+#include "core/color_bar_columns.h"
 
 #include <QMouseEvent>
 #include <QPainter>
@@ -8,14 +9,9 @@
 
 #include <algorithm>
 #include <cmath>
+#include <cstdint>
 
 namespace huebase {
-
-namespace {
-QRgb toRgb(ColorValue color) {
-    return qRgb(color & 0xFF, (color >> 8) & 0xFF, (color >> 16) & 0xFF);
-}
-} // namespace
 
 RowColorBar::RowColorBar(const ColorBarRowModel& model, QWidget* parent)
     : QWidget(parent), model_(model) {
@@ -43,44 +39,26 @@ void RowColorBar::resizeEvent(QResizeEvent* event) {
     QWidget::resizeEvent(event);
 }
 
-// One pass over the slices: each slice overwrites the columns whose centres
-// it holds, so later slices win as they do when the boxes are painted in
-// order.
+// The bar's scale puts the lower bound at the left edge; bounds given the
+// other way round turn it around.
 void RowColorBar::render() {
     const int width = std::max(1, this->width());
     QImage columns(width, 1, QImage::Format_RGB32);
     columns.fill(palette().color(QPalette::Base));
     const auto scale = model_.barScale();
-    if (scale && scale->first != scale->second)
-        paintSlices(columns, scale->first, scale->second);
+    if (scale && scale->first != scale->second) {
+        const double left = scale->first;
+        const double perPixel = (scale->second - left) / width;
+        if (std::isfinite(perPixel))
+            paintColumns({reinterpret_cast<std::uint32_t*>(columns.scanLine(0)),
+                          static_cast<std::size_t>(width)},
+                         model_.barSlices(),
+                         {[=](double x) { return (x - left) / perPixel; }, perPixel < 0});
+    }
     // Only a finished image is kept: should painting fail, the next paint
     // tries again rather than show half a bar.
     columns_ = columns;
     stale_ = false;
-}
-
-void RowColorBar::paintSlices(QImage& columns, double left, double right) const {
-    const int width = columns.width();
-    const double perPixel = (right - left) / width;
-    if (!std::isfinite(perPixel))
-        return;
-    auto* line = reinterpret_cast<QRgb*>(columns.scanLine(0));
-    for (const BarSlice& slice : model_.barSlices()) {
-        // Columns c whose centre left + (c + 0.5) * perPixel lies in [x0, x1),
-        // clamped before they become integers.
-        double from = (slice.x0 - left) / perPixel - 0.5;
-        double to = (slice.x1 - left) / perPixel - 0.5;
-        if (perPixel < 0)
-            std::swap(from, to);
-        if (!(from < width && to > 0))
-            continue;
-        const int first = std::max(0, static_cast<int>(std::ceil(std::max(from, -1.0))));
-        const int last =
-            std::min(width - 1, static_cast<int>(std::ceil(std::min(to, double(width)))) - 1);
-        const QRgb color = toRgb(slice.color);
-        for (int c = first; c <= last; ++c)
-            line[c] = color;
-    }
 }
 
 void RowColorBar::paintEvent(QPaintEvent*) {

@@ -31,7 +31,6 @@ protected:
 
 private:
     void render();
-    void paintSlices(QImage& columns, double left, double right) const;
 
     const ColorBarRowModel& model_;
     QImage columns_; // one pixel high, one pixel per column

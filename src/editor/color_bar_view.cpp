@@ -1,12 +1,12 @@
 #include "editor/color_bar_view.h"
 
-#include "color/qt_color.h"
+#include "core/color_bar_columns.h"
 #include "editor/lut_editor_model.h"
 
 #include <QPainter>
 
 #include <algorithm>
-#include <cmath>
+#include <cstdint>
 
 namespace huebase {
 
@@ -49,19 +49,10 @@ void ColorBarView::render() {
     const int w = std::max(1, width());
     columns_ = QImage(w, 1, QImage::Format_RGB32);
     columns_.fill(background());
-    auto* line = reinterpret_cast<QRgb*>(columns_.scanLine(0));
     const GraphCoordinates& c = model_.graphCoordinates();
-    for (const ColorSlice& slice : model_.colorBar().slices()) {
-        // Columns whose centre c + 0.5 lies in [x0, x1).
-        const double p0 = c.xToPixel(slice.x0, w) - 0.5;
-        const double p1 = c.xToPixel(slice.x1, w) - 0.5;
-        const double first = std::max(0.0, std::ceil(p0));
-        const double end = std::min(static_cast<double>(w), std::ceil(p1));
-        if (!(first < end))
-            continue;
-        std::fill(line + static_cast<int>(first), line + static_cast<int>(end),
-                  toQColor(slice.color).rgb());
-    }
+    paintColumns(
+        {reinterpret_cast<std::uint32_t*>(columns_.scanLine(0)), static_cast<std::size_t>(w)},
+        model_.colorBar().slices(), {[&](double x) { return c.xToPixel(x, w); }});
     stale_ = false;
 }
 

@@ -10,6 +10,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <utility>
 
 namespace huebase {
 
@@ -177,8 +178,9 @@ void LutEditorModel::offsetChanged(int k, float value) {
 void LutEditorModel::PaintColorBar() {
     if (loading_)
         return;
-    colorBar_ = ColorBarSlices(rows_, DataMin(), DataMax());
-    table_ = rows_.toTable();
+    LutTable table = rows_.toTable();
+    colorBar_ = ColorBarSlices(table, DataMin(), DataMax(), SliceSpan::Whole);
+    table_ = std::move(table);
     notify([](LutEditorListener& l) { l.colorBarPainted(); });
 }
 

@@ -1,7 +1,7 @@
 #pragma once
 
+#include "core/color_bar_slices.h"
 #include "core/lut_node.h"
-#include "editor/color_bar_slices.h"
 #include "editor/distribution.h"
 #include "editor/distribution_curve.h"
 #include "editor/graph_coordinates.h"

@@ -73,13 +73,13 @@ TEST_F(RowWidgetTest, EveryColumnShowsTheLastSliceHoldingItsCentreAndThePointerR
     table[2].method = MethodExpPlus;
     open("ramp.lut", table);
     const QImage image = barImage();
-    const std::vector<BarSlice> slices = row.model().barSlices();
+    const std::vector<ColorSlice> slices = row.model().barSlices();
     ASSERT_FALSE(slices.empty());
     int checked = 0;
     for (int c = 0; c < image.width(); ++c) {
         const double centre = -40.0 + (c + 0.5) * 200.0 / image.width();
-        const BarSlice* holder = nullptr;
-        for (const BarSlice& slice : slices)
+        const ColorSlice* holder = nullptr;
+        for (const ColorSlice& slice : slices)
             if (slice.x0 <= centre && centre < slice.x1)
                 holder = &slice;
         if (!holder)

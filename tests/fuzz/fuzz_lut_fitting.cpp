@@ -21,10 +21,10 @@
 // while painting.
 #include "fuzz_support.h"
 
-#include "browser/bar_slices.h"
 #include "browser/color_bar_row_model.h"
 #include "browser/lut_file.h"
 #include "browser/lut_fitting.h"
+#include "core/color_bar_slices.h"
 #include "util/vb_error.h"
 #include "util/vb_format.h"
 
@@ -87,7 +87,7 @@ void showRow(const LutRecords& loaded, std::int16_t mode, float dataMin, float d
     const LutRecords& fitted = row.lut();
     // Listing the slices is painting: it must neither raise nor run away.
     if (row.barScale()) {
-        const std::vector<BarSlice> slices = row.barSlices();
+        const std::vector<ColorSlice> slices = row.barSlices();
         FUZZ_CHECK(slices.size() <= 258 * (fitted.size() == 0 ? 0 : fitted.size() - 1));
     }
     for (const double fraction : {0.0, 0.5, 1.0})
