@@ -84,7 +84,7 @@ ColorDialogChange ColorDialogModel::type(ColorBox box, std::string_view typed) {
         text = std::move(plain);
         change.written.set(at(box));
     }
-    edit(change, box, true);
+    edit(change, box);
     return change;
 }
 
@@ -98,7 +98,7 @@ ColorDialogChange ColorDialogModel::slide(ColorBox box, int value) {
     if (text == texts_[at(box)])
         return change; // the box already says so: no edit
     texts_[at(box)] = std::move(text);
-    edit(change, box, false);
+    edit(change, box);
     return change;
 }
 
@@ -177,7 +177,7 @@ void ColorDialogModel::show(ColorDialogChange& change, ColorBox box, int value) 
 }
 
 // The colour is rebuilt from the edited box's group as the boxes stand.
-void ColorDialogModel::edit(ColorDialogChange& change, ColorBox box, bool moveSlider) {
+void ColorDialogModel::edit(ColorDialogChange& change, ColorBox box) {
     if (isComponent(box)) {
         setColor(composeColor(value(ColorBox::Red), value(ColorBox::Green), value(ColorBox::Blue)));
         refreshInto(change, std::nullopt);
@@ -188,8 +188,7 @@ void ColorDialogModel::edit(ColorDialogChange& change, ColorBox box, bool moveSl
         setColor(modHSL::HSLToRGB(hsl));
         refreshInto(change, box);
     }
-    if (moveSlider)
-        sliders_[at(box)] = sliderFor(box, value(box));
+    sliders_[at(box)] = sliderFor(box, value(box));
     const std::string& now = texts_[at(box)];
     change.selectAll = now == std::to_string(boxMaximum(boxScale(box))) || now == "0";
 }

@@ -85,8 +85,7 @@ public:
     // user's text, as a reloaded hue may differ from the typed one.
     ColorDialogChange type(ColorBox box, std::string_view typed);
     // The slider of the box moved to `value` (top = the box's maximum): the
-    // box takes the value and, if its text changed, edits as if typed, only
-    // without moving the slider back.
+    // box takes the value and, if its text changed, edits as if typed.
     ColorDialogChange slide(ColorBox box, int value);
 
     // A click on step `index` of the strip takes its colour.
@@ -114,7 +113,7 @@ private:
     ColorDialogChange takeColor(ColorValue color);
     void refreshInto(ColorDialogChange& change, std::optional<ColorBox> kept);
     void show(ColorDialogChange& change, ColorBox box, int value);
-    void edit(ColorDialogChange& change, ColorBox box, bool moveSlider);
+    void edit(ColorDialogChange& change, ColorBox box);
     int value(ColorBox box) const;
 
     ColorValue color_ = 0;
