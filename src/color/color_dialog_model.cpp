@@ -148,16 +148,16 @@ ColorDialogChange ColorDialogModel::takeColor(ColorValue color) {
 }
 
 void ColorDialogModel::refreshInto(ColorDialogChange& change, std::optional<ColorBox> kept) {
-    show(change, ColorBox::Red, RedOf(color_));
-    show(change, ColorBox::Green, GreenOf(color_));
-    show(change, ColorBox::Blue, BlueOf(color_));
+    writeBox(change, ColorBox::Red, RedOf(color_));
+    writeBox(change, ColorBox::Green, GreenOf(color_));
+    writeBox(change, ColorBox::Blue, BlueOf(color_));
     const HSLColor hsl = modHSL::RGBToHSL(color_);
     const std::pair<ColorBox, int> levels[] = {{ColorBox::Hue, hsl.Hue},
                                                {ColorBox::Saturation, hsl.Saturation},
                                                {ColorBox::Luminance, hsl.Luminance}};
     for (const auto& [box, level] : levels)
         if (box != kept)
-            show(change, box, level);
+            writeBox(change, box, level);
 
     if (blockPicking_)
         return;
@@ -170,7 +170,7 @@ void ColorDialogModel::refreshInto(ColorDialogChange& change, std::optional<Colo
     change.strip = true;
 }
 
-void ColorDialogModel::show(ColorDialogChange& change, ColorBox box, int value) {
+void ColorDialogModel::writeBox(ColorDialogChange& change, ColorBox box, int value) {
     texts_[at(box)] = std::to_string(value);
     sliders_[at(box)] = sliderFor(box, value);
     change.written.set(at(box));

@@ -112,7 +112,7 @@ public:
 private:
     ColorDialogChange takeColor(ColorValue color);
     void refreshInto(ColorDialogChange& change, std::optional<ColorBox> kept);
-    void show(ColorDialogChange& change, ColorBox box, int value);
+    void writeBox(ColorDialogChange& change, ColorBox box, int value);
     void edit(ColorDialogChange& change, ColorBox box);
     int value(ColorBox box) const;
 
