@@ -5,23 +5,23 @@
 #include "color/color_chooser.h"
 #include "color/color_patch.h"
 #include "color/color_picker.h"
-#include "color/hsl.h"
 #include "color/palette_field.h"
 #include "color/qt_color.h"
 #include "color/qt_screen_pixels.h"
 #include "util/form_on_top.h"
 #include "util/messages.h"
-#include "util/vb_numeric.h"
 
 #include <QEvent>
 #include <QFrame>
 #include <QGridLayout>
 #include <QHBoxLayout>
+#include <QImage>
 #include <QLabel>
 #include <QLineEdit>
 #include <QPainter>
 #include <QPushButton>
 #include <QScrollBar>
+#include <QSignalBlocker>
 #include <QTimer>
 #include <QToolButton>
 #include <QVBoxLayout>
@@ -33,12 +33,6 @@ namespace huebase {
 namespace {
 constexpr int kPickInterval = 50;
 constexpr int k5by5Interval = 100;
-constexpr int kPaletteWidth = 254;
-constexpr int kPaletteHeight = 215; // odd, so that the middle row is luminance 120
-constexpr ColorValue kWhite = 0xFFFFFF;
-constexpr ColorValue kBlack = 0;
-// The green box turns its text black above this value; the other boxes keep white.
-constexpr int kGreenTextThreshold = 172;
 
 struct BoxInfo {
     const char* letter;
@@ -83,7 +77,7 @@ QFont namedFont(const char* family, QFont::StyleHint hint) {
 
 frmColorRef::frmColorRef(QWidget* parent, std::unique_ptr<ScreenPixels> screen)
     : QDialog(parent), screen_(screen ? std::move(screen) : std::make_unique<QtScreenPixels>()),
-      sampler_(*screen_), paletteImage_(makePaletteImage(kPaletteWidth, kPaletteHeight)) {
+      sampler_(*screen_) {
     setObjectName("frmColorRef");
     setWindowTitle("Color Pick");
     setWindowIcon(makeDialogIcon());
@@ -191,18 +185,20 @@ QWidget* frmColorRef::buildPaletteArea() {
     pCol_->setFrameStyle(QFrame::Box | QFrame::Plain);
     pCol_->setLineWidth(1);
     const int border = pCol_->frameWidth();
-    const QRect inner(border, border, kPaletteWidth, kPaletteHeight);
-    pCol_->setFixedSize(kPaletteWidth + 2 * border, kPaletteHeight + 2 * border);
+    constexpr int width = ColorDialogModel::kPaletteWidth;
+    constexpr int height = ColorDialogModel::kPaletteHeight;
+    const QRect inner(border, border, width, height);
+    pCol_->setFixedSize(width + 2 * border, height + 2 * border);
 
     Picture1_ = new ColorPatch(pCol_);
     Picture1_->setObjectName("Picture1");
     Picture1_->setToolTip("pick a color");
     Picture1_->setAccessibleName("Palette");
-    Picture1_->setPixmap(QPixmap::fromImage(paletteImage_));
+    Picture1_->setPixmap(QPixmap::fromImage(makePaletteImage(width, height)));
     Picture1_->setGeometry(inner);
     Picture1_->setCursor(Qt::CrossCursor);
     connect(Picture1_, &ColorPatch::pressed, this,
-            guarded(this, [this](QPoint pos) { paletteClicked(pos); }));
+            guarded(this, [this](QPoint pos) { display(model_.choosePalette(pos.x(), pos.y())); }));
 
     // The enlargement covers the palette while the 5x5 sampling runs; the
     // palette cannot be clicked then anyway, as the swatch holds the mouse.
@@ -237,15 +233,12 @@ QLayout* frmColorRef::buildValueColumns() {
     auto* grid = new QGridLayout;
     grid->setHorizontalSpacing(4);
     grid->setVerticalSpacing(3);
-    for (int i = 0; i < BoxCount; ++i) {
+    constexpr int firstLevel = static_cast<int>(ColorBox::Hue);
+    for (int i = 0; i < kColorBoxCount; ++i) {
+        const auto id = static_cast<ColorBox>(i);
         const BoxInfo& info = kBoxInfo[i];
         ValueBox& box = boxes_[i];
-        box.scale = i < BoxH ? BoxScale::Component : i == BoxH ? BoxScale::Hue : BoxScale::Level;
-        box.editing = i == BoxH   ? &EditingHue_
-                      : i == BoxS ? &EditingSat_
-                      : i == BoxL ? &EditingLum_
-                                  : nullptr;
-        const int column = i < BoxH ? i : i + 1; // a gap between the two groups
+        const int column = i < firstLevel ? i : i + 1; // a gap between the two groups
 
         auto* label = new QLabel(info.letter, this);
         label->setObjectName(QString("lbl") + info.letter);
@@ -264,7 +257,7 @@ QLayout* frmColorRef::buildValueColumns() {
         box.slider = new QScrollBar(Qt::Vertical, this);
         box.slider->setObjectName(QString("v") + info.letter);
         box.slider->setAccessibleName(info.name);
-        box.slider->setRange(0, boxMaximum(box.scale));
+        box.slider->setRange(0, boxMaximum(boxScale(id)));
         box.slider->setPageStep(16);
         box.slider->setMinimumHeight(110);
 
@@ -272,13 +265,12 @@ QLayout* frmColorRef::buildValueColumns() {
         grid->addWidget(box.edit, 1, column, Qt::AlignHCenter);
         grid->addWidget(box.slider, 2, column, Qt::AlignHCenter);
 
-        const Box id = static_cast<Box>(i);
         connect(box.edit, &QLineEdit::textChanged, this,
                 guarded(this, [this, id] { boxChanged(id); }));
         connect(box.slider, &QScrollBar::valueChanged, this,
                 guarded(this, [this, id](int value) { sliderChanged(id, value); }));
     }
-    grid->setColumnMinimumWidth(BoxH, 6);
+    grid->setColumnMinimumWidth(firstLevel, 6);
     grid->setRowStretch(2, 1);
     return grid;
 }
@@ -287,7 +279,7 @@ QLayout* frmColorRef::buildStrip() {
     const QFont arial = namedFont("Arial", QFont::SansSerif);
     auto* strip = new QHBoxLayout;
     strip->setSpacing(2);
-    for (int i = 0; i < static_cast<int>(lblAdj_.size()); ++i) {
+    for (int i = 0; i < kStripSteps; ++i) {
         auto* step = new ColorPatch(this);
         step->setObjectName("lblAdj");
         step->setProperty("Index", i);
@@ -298,10 +290,8 @@ QLayout* frmColorRef::buildStrip() {
                                     .arg(5 * (i < 4 ? 4 - i : i - 3)));
         step->setFocusPolicy(Qt::TabFocus);
         step->setMinimumHeight(26);
-        connect(step, &ColorPatch::pressed, this, guarded(this, [this, step] {
-                    setColor(step->color());
-                    RefreshDisplay();
-                }));
+        connect(step, &ColorPatch::pressed, this,
+                guarded(this, [this, i] { display(model_.chooseStep(i)); }));
         strip->addWidget(step, 1);
         lblAdj_[i] = step;
     }
@@ -313,13 +303,12 @@ void frmColorRef::setCP(ColorPicker* picker) {
 }
 
 ColorValue frmColorRef::color() const {
-    return picColor_->color();
+    return model_.color();
 }
 
-// Only the colour bytes: a value with upper bits set could not be split into
-// components by the displays.
 void frmColorRef::setColor(ColorValue color) {
-    picColor_->setColor(color & 0xFFFFFF);
+    model_.setColor(color);
+    picColor_->setColor(model_.color());
 }
 
 void frmColorRef::showEvent(QShowEvent* event) {
@@ -343,139 +332,77 @@ bool frmColorRef::eventFilter(QObject* watched, QEvent* event) {
 }
 
 void frmColorRef::done(int result) {
-    if (picking())
+    if (model_.picking())
         endPicking();
     QDialog::done(result);
 }
 
 void frmColorRef::RefreshDisplay() {
-    Updating_ = true;
-    const ColorValue cur = color();
-    const int r = RedOf(cur), g = GreenOf(cur), b = BlueOf(cur);
-    showComponent(BoxR, r, composeColor(r, 0, 0), kWhite);
-    showComponent(BoxG, g, composeColor(0, g, 0), g > kGreenTextThreshold ? kBlack : kWhite);
-    showComponent(BoxB, b, composeColor(0, 0, b), kWhite);
+    display(model_.refresh());
+}
 
-    const HSLColor hsl = modHSL::RGBToHSL(cur);
-    if (!EditingHue_)
-        showInBox(BoxH, hsl.Hue);
-    if (!EditingSat_)
-        showInBox(BoxS, hsl.Saturation);
-    if (!EditingLum_)
-        showInBox(BoxL, hsl.Luminance);
-
-    // The strip keeps its colours while the enlargement is shown.
-    if (pic5x5_->isHidden()) {
-        for (int i = 0; i < 8; ++i) {
-            const ColorValue step = i < 4 ? modHSL::DarkenColor(cur, (4 - i) * 0.05f)
-                                          : modHSL::LightenColor(cur, (i - 3) * 0.05f);
-            lblAdj_[i]->setColor(step);
-            lblAdj_[i]->setTextColor(modHSL::ContrastTextColor(step));
+// The controls report every change of their value, also the ones made here;
+// their signals are blocked while they take the model's state, which is no input.
+void frmColorRef::display(const ColorDialogChange& change) {
+    picColor_->setColor(model_.color());
+    for (int i = 0; i < kColorBoxCount; ++i) {
+        const auto id = static_cast<ColorBox>(i);
+        ValueBox& box = boxes_[i];
+        if (change.written.test(i)) {
+            const QSignalBlocker quiet(box.edit);
+            box.edit->setText(QString::fromStdString(model_.text(id)));
+            if (const auto shade = model_.shade(id)) {
+                QPalette pal = box.edit->palette();
+                pal.setColor(QPalette::Base, toQColor(shade->background));
+                pal.setColor(QPalette::Text, toQColor(shade->text));
+                box.edit->setPalette(pal);
+            }
+        }
+        const QSignalBlocker quiet(box.slider);
+        box.slider->setValue(model_.slider(id));
+    }
+    if (change.strip) {
+        for (int i = 0; i < kStripSteps; ++i) {
+            const StripStep& step = model_.strip()[i];
+            lblAdj_[i]->setColor(step.color);
+            lblAdj_[i]->setTextColor(step.text);
         }
     }
-    Updating_ = false;
 }
 
-void frmColorRef::showInBox(Box box, int value) {
-    ValueBox& b = boxes_[box];
-    b.edit->setText(QString::number(value));
-    setSliderQuietly(*b.slider, boxMaximum(b.scale) - value);
+void frmColorRef::boxChanged(ColorBox id) {
+    QLineEdit& edit = *boxes_[static_cast<int>(id)].edit;
+    const ColorDialogChange change = model_.type(id, edit.text().toStdString());
+    display(change);
+    if (change.selectAll)
+        edit.selectAll();
 }
 
-void frmColorRef::showComponent(Box box, int value, ColorValue background, ColorValue text) {
-    showInBox(box, value);
-    QLineEdit& edit = *boxes_[box].edit;
-    QPalette pal = edit.palette();
-    pal.setColor(QPalette::Base, toQColor(background));
-    pal.setColor(QPalette::Text, toQColor(text));
-    edit.setPalette(pal);
-}
-
-// Moves a slider without letting it write its box back: a value outside the
-// slider's range (hue 240) would otherwise come back clamped.
-void frmColorRef::setSliderQuietly(QScrollBar& slider, int value) {
-    const bool wasSyncing = SyncingSlider_;
-    SyncingSlider_ = true;
-    slider.setValue(value);
-    SyncingSlider_ = wasSyncing;
-}
-
-int frmColorRef::boxValue(Box box) const {
-    return toInt32(leadingNumber(boxes_[box].edit->text().toStdString()));
-}
-
-void frmColorRef::boxChanged(Box id) {
-    if (Updating_)
-        return;
-    ValueBox& box = boxes_[id];
-    const QString typed = box.edit->text();
-    const QString plain = QString::fromStdString(boxText(box.scale, typed.toStdString()));
-    if (plain != typed)
-        box.edit->setText(plain); // runs this handler once more, on the plain text
-
-    if (box.editing == nullptr) {
-        setColor(composeColor(boxValue(BoxR), boxValue(BoxG), boxValue(BoxB)));
-        RefreshDisplay();
-    } else {
-        const HSLColor hsl{static_cast<std::int16_t>(boxValue(BoxH)),
-                           static_cast<std::int16_t>(boxValue(BoxS)),
-                           static_cast<std::int16_t>(boxValue(BoxL))};
-        setColor(modHSL::HSLToRGB(hsl));
-        // The edited box keeps the user's text: a reloaded hue may drift.
-        *box.editing = true;
-        RefreshDisplay();
-        *box.editing = false;
-    }
-
-    const int maximum = boxMaximum(box.scale);
-    if (!SyncingSlider_) {
-        SyncingSlider_ = true;
-        box.slider->setValue(maximum - boxValue(id));
-        SyncingSlider_ = false;
-    }
-    // A clamped value is selected so that the next key replaces it.
-    const QString now = box.edit->text();
-    if (now == QString::number(maximum) || now == "0")
-        box.edit->selectAll();
-}
-
-void frmColorRef::sliderChanged(Box id, int value) {
-    if (SyncingSlider_)
-        return;
-    SyncingSlider_ = true;
-    ValueBox& box = boxes_[id];
-    box.edit->setText(QString::number(boxMaximum(box.scale) - value));
-    SyncingSlider_ = false;
-}
-
-void frmColorRef::paletteClicked(QPoint pos) {
-    if (!paletteImage_.rect().contains(pos))
-        return;
-    setColor(fromQColor(paletteImage_.pixelColor(pos)));
-    RefreshDisplay();
+void frmColorRef::sliderChanged(ColorBox id, int value) {
+    const ColorDialogChange change = model_.slide(id, value);
+    display(change);
+    if (change.selectAll)
+        boxes_[static_cast<int>(id)].edit->selectAll();
 }
 
 void frmColorRef::cmdPick_Click() {
     picColor_->grabMouse(Qt::CrossCursor);
     tmrPick_->start(kPickInterval);
-    RefreshDisplay();
+    display(model_.startPixelPick());
 }
 
 void frmColorRef::cmd5by5_Click() {
     picColor_->grabMouse(Qt::CrossCursor);
     tmr5by5_->start(k5by5Interval);
+    model_.startBlockPick();
     pic5x5_->show();
     pic5x5_->raise();
-}
-
-bool frmColorRef::picking() const {
-    return tmrPick_->interval() >= 1 || tmr5by5_->interval() >= 1;
 }
 
 // The swatch holds the mouse while a mode runs, so a press anywhere on the
 // screen arrives here and ends it.
 void frmColorRef::picColor_MouseDown() {
-    if (picking())
+    if (model_.picking())
         endPicking();
 }
 
@@ -486,39 +413,29 @@ void frmColorRef::endPicking() {
     tmr5by5_->stop();
     tmr5by5_->setInterval(0);
     pic5x5_->hide();
-    RefreshDisplay();
+    display(model_.endPicking());
 }
 
 void frmColorRef::tmrPick_Timer() {
-    if (const auto sample = sampler_.pickTick()) {
-        setColor(*sample);
-        RefreshDisplay();
-    }
+    if (const auto sample = sampler_.pickTick())
+        display(model_.takePixel(*sample));
 }
 
 void frmColorRef::tmr5by5_Timer() {
     const auto block = sampler_.blockTick();
     if (!block)
         return;
-    // The cells hold the samples; the average is taken from what they show.
-    SampleBlock shown{};
-    for (int k = 0; k < kBlockCells; ++k) {
+    for (int k = 0; k < kBlockCells; ++k)
         picPoint_[k]->setColor((*block)[k]);
-        shown[k] = picPoint_[k]->color();
-    }
-    setColor(averageColor(shown));
-    RefreshDisplay();
+    display(model_.takeBlock(*block));
 }
 
 // The system chooser starts from its own previous result (black the first
 // time), not from the current colour.
 void frmColorRef::cmdChange_Click() {
     try {
-        LastChoice_ = modColorDialog::ShowColorChooser(this, true, LastChoice_.Color);
-        if (!LastChoice_.Cancelled) {
-            setColor(LastChoice_.Color);
-            RefreshDisplay();
-        }
+        display(model_.takeSystemChoice(
+            modColorDialog::ShowColorChooser(this, true, model_.lastChoice().Color)));
     } catch (const std::exception&) {
         // A failing chooser leaves the current colour as it was.
     }

@@ -1,11 +1,9 @@
 #pragma once
 
-#include "color/box_text.h"
-#include "color/color_choice.h"
+#include "color/color_dialog_model.h"
 #include "color/screen_sampler.h"
 
 #include <QDialog>
-#include <QImage>
 #include <QPointer>
 
 #include <array>
@@ -29,7 +27,9 @@ class ColorPicker;
 // (a box and an inverted slider each), with a palette, a strip of lighter and
 // darker steps, picking from the screen (one pixel or a 5x5 average) and the
 // system chooser. Every control carries its name as objectName. A swatch
-// (ColorPicker) opens it modally; OK hands the colour to that swatch.
+// (ColorPicker) opens it modally; OK hands the colour to that swatch. What
+// the controls show lives in a ColorDialogModel: the dialog forwards each
+// input to it and writes back what the model says changed.
 class frmColorRef : public QDialog {
     Q_OBJECT
 public:
@@ -46,7 +46,7 @@ public:
     void setColor(ColorValue color);
 
     // The result of the last use of the system chooser, and where it starts next.
-    const ColorChoice& LastChoice() const noexcept { return LastChoice_; }
+    const ColorChoice& LastChoice() const noexcept { return model_.lastChoice(); }
 
 protected:
     void changeEvent(QEvent* event) override;
@@ -55,13 +55,9 @@ protected:
     void done(int result) override;
 
 private:
-    enum Box { BoxR, BoxG, BoxB, BoxH, BoxS, BoxL, BoxCount };
-
     struct ValueBox {
         QLineEdit* edit = nullptr;
         QScrollBar* slider = nullptr;
-        BoxScale scale = BoxScale::Component;
-        bool* editing = nullptr; // the hue/saturation/luminance boxes' own flag
     };
 
     void buildControls();
@@ -70,18 +66,13 @@ private:
     QLayout* buildStrip();
 
     void RefreshDisplay();
-    void showInBox(Box box, int value);
-    void showComponent(Box box, int value, ColorValue background, ColorValue text);
-    void setSliderQuietly(QScrollBar& slider, int value);
-    int boxValue(Box box) const;
-    void boxChanged(Box box);
-    void sliderChanged(Box box, int value);
+    void display(const ColorDialogChange& change);
+    void boxChanged(ColorBox box);
+    void sliderChanged(ColorBox box, int value);
 
-    void paletteClicked(QPoint pos);
     void cmdPick_Click();
     void cmd5by5_Click();
     void picColor_MouseDown();
-    bool picking() const;
     void endPicking();
     void tmrPick_Timer();
     void tmr5by5_Timer();
@@ -92,21 +83,15 @@ private:
     std::unique_ptr<ScreenPixels> screen_;
     ScreenSampler sampler_;
     QPointer<ColorPicker> TargetPicker_;
-    ColorChoice LastChoice_;
-    bool Updating_ = false;
-    bool EditingHue_ = false;
-    bool EditingSat_ = false;
-    bool EditingLum_ = false;
-    bool SyncingSlider_ = false;
+    ColorDialogModel model_;
 
-    QImage paletteImage_;
-    std::array<ValueBox, BoxCount> boxes_{};
+    std::array<ValueBox, kColorBoxCount> boxes_{};
     ColorPatch* picColor_ = nullptr;
     QFrame* pCol_ = nullptr;
     ColorPatch* Picture1_ = nullptr;
     QFrame* pic5x5_ = nullptr;
     std::array<ColorPatch*, kBlockCells> picPoint_{};
-    std::array<ColorPatch*, 8> lblAdj_{};
+    std::array<ColorPatch*, kStripSteps> lblAdj_{};
     QPushButton* cmdPick_ = nullptr;
     QPushButton* cmd5by5_ = nullptr;
     QPushButton* cmdChange_ = nullptr;
