@@ -3,8 +3,10 @@
 # build, and in the AddressSanitizer + UndefinedBehaviorSanitizer build
 # (preset "sanitize"), where any finding fails the test that raised it. The
 # tests that need a real X server run on Xvfb, the others on Qt's offscreen
-# platform. Then builds the fuzz targets, replays their corpora and runs each
-# deterministically (scripts/fuzz.sh).
+# platform. Then builds the Qt-free logic alone with clang and the same
+# sanitizers (preset "fuzz"), runs the logic tests there without a display,
+# and replays the fuzz targets' corpora and runs each deterministically
+# (scripts/fuzz.sh).
 set -euo pipefail
 cd "$(dirname "$0")/.."
 root=$PWD
@@ -23,6 +25,14 @@ scripts/build.sh sanitize
     export LSAN_OPTIONS=suppressions=$root/tests/sanitize/lsan.supp:print_suppressions=0
     export UBSAN_OPTIONS=print_stacktrace=1:halt_on_error=1
     run_suite build-sanitize
+)
+
+scripts/build.sh fuzz
+(
+    export ASAN_OPTIONS=detect_leaks=1
+    export UBSAN_OPTIONS=print_stacktrace=1:halt_on_error=1
+    # The logic tests need no display: without one, a test that wanted it fails.
+    cd build-fuzz && env -u DISPLAY ctest --output-on-failure -j2 --timeout 600
 )
 
 scripts/fuzz.sh ci

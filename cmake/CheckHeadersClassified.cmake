@@ -1,0 +1,38 @@
+# Fails when a header under SOURCE_DIR is listed neither as a logic header
+# (LOGIC) nor as a widget header (WIDGET), or as both: the check that logic
+# files include no Qt header only sees the logic ones, so a header that is in
+# no list would slip past it. LOGIC and WIDGET are "|"-separated paths.
+cmake_policy(VERSION 3.25)
+if(NOT IS_DIRECTORY "${SOURCE_DIR}")
+    message(FATAL_ERROR "usage: cmake -DSOURCE_DIR=<src> -DLOGIC=a.h|... -DWIDGET=b.h|... -P ${CMAKE_CURRENT_LIST_FILE}")
+endif()
+string(REPLACE "|" ";" logic "${LOGIC}")
+string(REPLACE "|" ";" widget "${WIDGET}")
+
+file(GLOB_RECURSE headers ${SOURCE_DIR}/*.h)
+list(SORT headers)
+set(offenders "")
+foreach(header IN LISTS headers)
+    set(classes "")
+    if(header IN_LIST logic)
+        list(APPEND classes logic)
+    endif()
+    if(header IN_LIST widget)
+        list(APPEND classes widget)
+    endif()
+    file(RELATIVE_PATH shown ${SOURCE_DIR}/.. ${header})
+    if(NOT classes)
+        list(APPEND offenders "${shown}: neither a logic nor a widget header of its folder's CMakeLists.txt")
+    elseif(classes STREQUAL "logic;widget")
+        list(APPEND offenders "${shown}: both a logic and a widget header")
+    endif()
+endforeach()
+
+if(offenders)
+    list(LENGTH offenders count)
+    string(REPLACE ";" "\n" report "${offenders}")
+    message("${report}")
+    message(FATAL_ERROR "${count} headers not classified as logic or widget")
+endif()
+list(LENGTH headers count)
+message(STATUS "${count} headers, each a logic or a widget header")
