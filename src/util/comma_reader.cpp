@@ -29,6 +29,18 @@ bool parseNumber(const char* first, const char* last, double& number) {
     const char* mantissa = first != last && *first == '-' ? first + 1 : first;
     if (mantissa == last || !(isDigit(*mantissa) || *mantissa == '.'))
         return false;
+    // Whole numbers below 10^15 are exact as doubles and read several times
+    // faster as integers; counts and keys of the exchange files mostly are.
+    // Zero keeps the general path, which gives "-0" its sign.
+    if (last - first <= 16) {
+        long long whole = 0;
+        const auto [end, ec] = std::from_chars(first, last, whole);
+        if (ec == std::errc() && end == last && whole != 0 && whole < 1'000'000'000'000'000 &&
+            whole > -1'000'000'000'000'000) {
+            number = static_cast<double>(whole);
+            return true;
+        }
+    }
     const auto [end, ec] = std::from_chars(first, last, number);
     if (ec == std::errc::result_out_of_range && end == last)
         throw VbError(VbError::Overflow);

@@ -33,6 +33,9 @@ TEST(CommaReader, ReadsNumbersTextsAndEmptyFieldsAcrossLines) {
         {"  1 ,\t2\t\n \"a b\"  ,  hello world  ", "1;2;'a b';'hello world';"},
         {"+5,.5,1e3,-0.125,1x,abc,-,inf,nan,0x10,1 2,\"7\"",
          "5;0.5;1000;-0.125;'1x';'abc';'-';'inf';'nan';'0x10';'1 2';'7';"},
+        // Whole numbers on either side of the integer reading, and zero's sign.
+        {"-0,007,-999999999999999,1000000000000001,12345678901234567890",
+         "-0;7;-999999999999999;1000000000000001;12345678901234567168;"},
         {"\"a, b\",3\n\"x\"junk , 4\n\"\",\"line\nbreak\"", "'a, b';3;'x';4;'';'line\nbreak';"},
         {"1,\"unclosed, to the end\n", "1;'unclosed, to the end\n';"},
         {"1,,2", "1;_;2;"},
