@@ -46,8 +46,6 @@ public:
     // Opens the library "myLuts" in programFolder, creating it when missing,
     // with the drive list on its drive and the fitting mode 0.
     void loadLibrary(const std::string& programFolder);
-    // The library folder loadLibrary opened.
-    QString libraryPath() const { return libraryPath_; }
 
     // The fitting mode the option buttons show.
     std::int16_t fittingMode() const noexcept { return mode_; }

@@ -36,8 +36,6 @@ public:
     // inclusive) are black.
     std::optional<SampleBlock> blockTick();
 
-    const ScreenRect& screenBounds() const noexcept { return bounds_; }
-
 private:
     const ScreenPixels& screen_;
     ScreenPoint lastPick_;

@@ -72,8 +72,6 @@ public:
     const NodeRows& rows() const noexcept { return rows_; }
     int rowCount() const noexcept { return rows_.count(); }
     const NodeRow& row(int k) const { return rows_[k]; }
-    // Row k's value as its value box shows it (shortest float text).
-    std::string valueText(int k) const { return floatText(rows_[k].value); }
     // True while a table is being loaded into the rows.
     bool loading() const noexcept { return loading_; }
     // The table as last read from the rows.

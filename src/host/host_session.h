@@ -58,11 +58,9 @@ public:
 
     // Fill the input (output) values table from the file, row 1 onward, as
     // readExchangeTable; the table keeps the size it was given. True when the
-    // end of the file was reached; false on a run-time error, which
-    // lastReadError then holds.
+    // end of the file was reached; false on a run-time error.
     bool GetOrderedFile(const std::string& path);
     bool GetOutPutFile(const std::string& path);
-    const std::optional<VbError>& lastReadError() const noexcept { return readError_; }
 
     // Column 2 of the last input row whose column 1 equals value, converted
     // to a 32-bit integer (the host colour once the rows are coloured); 0
