@@ -13,22 +13,16 @@ namespace huebase::MiscFiles {
 
 namespace fs = std::filesystem;
 
-// Files without CR take the vectorised count alone.
 std::int64_t lineCount(std::string_view text) {
     if (text.empty())
         return 0;
-    std::int64_t lines = std::count(text.begin(), text.end(), '\n');
-    const char* const end = text.data() + text.size();
-    const char* cr = text.data();
-    while ((cr = static_cast<const char*>(std::memchr(cr, '\r', end - cr))) != nullptr) {
-        ++cr;
-        if (cr == end || *cr != '\n')
-            ++lines;
-    }
-    const char last = text.back();
-    if (last != '\n' && last != '\r')
-        ++lines;
-    return lines;
+    // Every LF ends a line, and every CR that no LF follows; counted without
+    // branches, the loop runs at memory speed.
+    std::int64_t lines = 0;
+    for (std::size_t i = 0; i + 1 < text.size(); ++i)
+        lines += (text[i] == '\n') + ((text[i] == '\r') & (text[i + 1] != '\n'));
+    // The last character ends a line whatever it is.
+    return lines + 1;
 }
 
 bool DirExists(const std::string& path) {

@@ -120,6 +120,9 @@ TEST(LUTCtl, NoDataColourIsReadLiveAndStoredWithTheNextTable) {
     EXPECT_EQ(c.ctl.ClutInterpolate(400.0f), 0x3366FF);
     c.ctl.OK_Clicked();
     EXPECT_EQ(c.defined.back().noData, 0x3366FF);
+    c.editor().setNoDataColor(0x00AA00); // as the library hands one over
+    EXPECT_EQ(c.editor().findChild<ColorPicker*>("NoDataColor")->color(), 0x00AA00);
+    EXPECT_EQ(c.ctl.NoDataColor(), 0x00AA00);
 }
 
 TEST(LUTCtl, ResetGivesTheHeldTableBackAndOkSendsTheEditedOneBeforeDefiningIt) {
