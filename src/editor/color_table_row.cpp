@@ -84,6 +84,13 @@ void ColorTableRow::SetValue(float value) {
     txtValue_->setText(QString::fromStdString(floatText(value)));
 }
 
+void ColorTableRow::setNumber(int number) {
+    const QString node = QString("Node %1 ").arg(number);
+    txtValue_->setAccessibleName(node + "value");
+    cmbMethod_->setAccessibleName(node + "method");
+    ColorPicker1_->setAccessibleName(node + "colour");
+}
+
 void ColorTableRow::pickColor() {
     ColorPicker1_->UserControl_Click();
 }

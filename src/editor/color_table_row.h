@@ -45,6 +45,10 @@ public:
     void SetValue(float value);
     float GetValue() const noexcept { return value_; }
 
+    // Names the three controls after the row's place in the table, counted
+    // from 1, so an assistive client says which node each belongs to.
+    void setNumber(int number);
+
     // Opens the swatch's colour choice, as a click on it does.
     void pickColor();
 
