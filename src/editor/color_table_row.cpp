@@ -84,7 +84,11 @@ void ColorTableRow::SetValue(float value) {
     txtValue_->setText(QString::fromStdString(floatText(value)));
 }
 
+// Rebinding a row to the same node tells an assistive client nothing new.
 void ColorTableRow::setNumber(int number) {
+    if (number == number_)
+        return;
+    number_ = number;
     const QString node = QString("Node %1 ").arg(number);
     txtValue_->setAccessibleName(node + "value");
     cmbMethod_->setAccessibleName(node + "method");

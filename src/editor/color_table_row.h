@@ -81,6 +81,7 @@ private:
     ColorValue color_ = 0;
     std::uint8_t method_ = 0;
     bool locked_ = false;
+    int number_ = 0; // 0: not yet named after a node
 };
 
 } // namespace huebase
