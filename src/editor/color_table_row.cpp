@@ -84,6 +84,17 @@ void ColorTableRow::SetValue(float value) {
     txtValue_->setText(QString::fromStdString(floatText(value)));
 }
 
+// Rebinding a row to the same node tells an assistive client nothing new.
+void ColorTableRow::setNumber(int number) {
+    if (number == number_)
+        return;
+    number_ = number;
+    const QString node = QString("Node %1 ").arg(number);
+    txtValue_->setAccessibleName(node + "value");
+    cmbMethod_->setAccessibleName(node + "method");
+    ColorPicker1_->setAccessibleName(node + "colour");
+}
+
 void ColorTableRow::pickColor() {
     ColorPicker1_->UserControl_Click();
 }

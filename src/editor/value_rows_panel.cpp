@@ -185,6 +185,7 @@ void ValueRowsPanel::bind(ColorTableRow& widget, int k) {
     const NodeRow& row = model_.row(k);
     binding_ = true;
     widget.setProperty(kIndex, k);
+    widget.setNumber(k + 1);
     // The lock first: a value box losing the focus as it is disabled then
     // finds the row locked and validates nothing.
     widget.SetLock(row.locked);

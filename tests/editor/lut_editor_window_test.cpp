@@ -9,12 +9,14 @@
 #include "editor/lut_editor_window.h"
 #include "editor/node_tab_strip.h"
 #include "editor/value_rows_panel.h"
+#include "support/accessible_names.h"
 
 #include <QApplication>
 #include <QLabel>
 #include <QLineEdit>
 #include <QMouseEvent>
 #include <QPushButton>
+#include <QRegularExpression>
 #include <QScrollBar>
 #include <QTest>
 
@@ -209,6 +211,58 @@ TEST(LutEditorWindow, IndividualValuesMakesEveryDistinctValueANode) {
         EXPECT_NEAR(e.tabCentre(k).x(), e.graphPoint(e.model().row(k).value).x(), 1);
     QTest::mouseClick(&e.find<QPushButton>("Indiv"), Qt::LeftButton);
     EXPECT_EQ(e.model().rowCount(), 5) << "values on nodes are skipped";
+}
+
+// What an assistive client finds wrong in the editor: a missing or shared
+// name, or a row control whose node number does not match what it shows.
+std::vector<std::string> accessibilityFaults(ShownEditor& e) {
+    std::vector<std::string> faults = testing::accessibleNameFaults(e.window);
+    const QRegularExpression rowName("^Node (\\d+) (value|method)$");
+    for (const testing::AccessibleControl& control : testing::operatedControls(e.window)) {
+        const QRegularExpressionMatch match = rowName.match(control.name);
+        if (!match.hasMatch())
+            continue;
+        const int k = match.captured(1).toInt() - 1;
+        const QString shown = k < 0 || k >= e.model().rowCount() ? "no such node"
+                              : match.captured(2) == "value"
+                                  ? QString::fromStdString(e.model().valueText(k))
+                                  : QString(methodName(e.model().row(k).method));
+        if (control.value != shown)
+            faults.push_back(control.name.toStdString() + " shows '" + control.value.toStdString() +
+                             "', not '" + shown.toStdString() + "'");
+    }
+    return faults;
+}
+
+TEST(LutEditorWindow, EveryControlIsNamedOnceAndRowsByTheNodeTheyShowAsTheyChange) {
+    ShownEditor e;
+    e.window.DefaultLUT(); // 0 .. 200
+    e.window.SetLutTable(rampTable(5, 40));
+    const auto names = [&] {
+        QStringList all;
+        for (const testing::AccessibleControl& control : testing::operatedControls(e.window))
+            all << control.name;
+        return all;
+    };
+    const std::vector<std::string> none;
+    EXPECT_EQ(accessibilityFaults(e), none);
+    EXPECT_TRUE(names().contains("Node 5 colour"));
+
+    QTest::mouseRelease(&e.graph(), Qt::LeftButton, Qt::NoModifier, e.graphPoint(60, 10));
+    ASSERT_EQ(e.model().rowCount(), 6);
+    EXPECT_EQ(accessibilityFaults(e), none) << "after adding";
+    EXPECT_TRUE(names().contains("Node 6 value"));
+
+    e.model().removeNode(1);
+    EXPECT_EQ(accessibilityFaults(e), none) << "after removing";
+    EXPECT_FALSE(names().contains("Node 6 value"));
+
+    e.window.SetLutTable(rampTable(60, 3));
+    auto& scroll = e.find<QScrollBar>("VScroll1");
+    scroll.setValue(scroll.maximum());
+    EXPECT_EQ(accessibilityFaults(e), none) << "after scrolling";
+    EXPECT_TRUE(names().contains("Node 60 method"));
+    EXPECT_FALSE(names().contains("Node 1 method"));
 }
 
 struct GraphEditing : ::testing::Test {
