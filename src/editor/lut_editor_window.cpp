@@ -39,6 +39,7 @@ LutEditorWindow::LutEditorWindow(QWidget* parent)
     : QDialog(parent), model_(std::make_unique<LutEditorModel>()) {
     setObjectName("lut");
     setWindowTitle("Color LUT");
+    undo_ = std::make_unique<EditorUndo>(*model_, *this);
     buildControls();
     resize(980, 600);
     MiscFiles::FormOnTop(*this, true);
@@ -140,7 +141,7 @@ void LutEditorWindow::buildControls() {
     auto* buttons = new QHBoxLayout;
     buttons->addWidget(OpenBrowser);
     buttons->addWidget(cmdSave);
-    addUndoButtons(*buttons);
+    addUndoButtons(*buttons, cmdSave);
     buttons->addStretch(1);
     buttons->addWidget(Command1);
     buttons->addSpacing(12);
@@ -154,10 +155,9 @@ void LutEditorWindow::buildControls() {
     setTabOrder(GraphColorTab_, Indiv);
 }
 
-// Small buttons for the history; their tooltips name the step they take back
-// or make again.
-void LutEditorWindow::addUndoButtons(QHBoxLayout& row) {
-    undo_ = std::make_unique<EditorUndo>(*model_, *this);
+// Small buttons for the history, after `previous` in the tab order; their
+// tooltips name the step they take back or make again.
+void LutEditorWindow::addUndoButtons(QHBoxLayout& row, QWidget* previous) {
     row.addSpacing(12);
     for (QAction* action : {undo_->undoAction(), undo_->redoAction()}) {
         const QString caption = action == undo_->undoAction() ? "Undo" : "Redo";
@@ -170,6 +170,8 @@ void LutEditorWindow::addUndoButtons(QHBoxLayout& row) {
         follow();
         connect(action, &QAction::changed, b, guarded(b, follow));
         row.addWidget(b);
+        setTabOrder(previous, b);
+        previous = b;
     }
 }
 

@@ -78,7 +78,7 @@ private:
     void noDataColorChanged() override;
     void buildControls();
     void indivClicked();
-    void addUndoButtons(QHBoxLayout& row);
+    void addUndoButtons(QHBoxLayout& row, QWidget* previous);
 
     std::unique_ptr<LutEditorModel> model_;
     // Listens to the model, so it goes before it.
