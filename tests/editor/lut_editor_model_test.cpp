@@ -83,19 +83,14 @@ struct EditLog : LutEditorListener {
     std::vector<RampState> afters;
 };
 
-TEST_F(EditorModelTest, EachUserEditIsOneNamedStepThatRestoringTakesBackExactly) {
+// The kinds of edit one by one are undone and redone in the window's tests.
+TEST_F(EditorModelTest, EditsAreNamedStepsThatRestoringTakesBackExactly) {
     using Names = std::vector<std::string>;
     const struct {
         std::function<void(LutEditorModel&)> edit;
         Names names;
     } cases[] = {
-        {[](LutEditorModel& m) { m.releaseOnGraph(25, MouseButton::Left); }, {"Add node"}},
         {[](LutEditorModel& m) { m.pressOnTab(1, MouseButton::Right, CtrlKey); }, {"Delete node"}},
-        {[](LutEditorModel& m) { m.nudgeNode(1, true, false); }, {"Move node"}},
-        {[](LutEditorModel& m) { (void)m.commitValueText(2, "31"); }, {"Set value"}},
-        {[](LutEditorModel& m) { m.SetMode(2, MethodNone); }, {"Set method"}},
-        {[](LutEditorModel& m) { m.setColor(2, 0x123456); }, {"Set colour"}},
-        {[](LutEditorModel& m) { m.Indiv(); }, {"Individual values"}},
         {[](LutEditorModel& m) { m.Reset(); }, {"Reset"}},
         // A whole drag is one step, and a left release then adds a node.
         {[](LutEditorModel& m) {
@@ -147,6 +142,14 @@ TEST_F(EditorModelTest, EachUserEditIsOneNamedStepThatRestoringTakesBackExactly)
         EXPECT_EQ(editor.rampState(), end) << c.names[0];
     }
     EXPECT_TRUE(log.names.empty()) << "restoring records nothing";
+
+    // What was added before the rows filled up is a step too.
+    std::vector<DistributionRow> many;
+    for (int v = 0; v < NodeRows::kMaxRows + 10; ++v)
+        many.push_back({static_cast<float>(v), 1});
+    editor.InitFromOrderedArray(std::move(many));
+    EXPECT_THROW(editor.Indiv(), VbError);
+    EXPECT_EQ(log.names, Names{"Individual values"});
     editor.removeListener(&log);
 }
 
