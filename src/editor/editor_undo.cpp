@@ -39,7 +39,7 @@ EditorUndo::~EditorUndo() {
 void EditorUndo::rampEdited(const char* name, const RampState& before, const RampState& after) {
     auto from = last_ && *last_ == before ? last_ : std::make_shared<const RampState>(before);
     last_ = std::make_shared<const RampState>(after);
-    stack_.push(new RampCommand(model_, this, name, std::move(from), last_));
+    stack_.push(new RampCommand(model_, &window_, name, std::move(from), last_));
 }
 
 bool EditorUndo::eventFilter(QObject* watched, QEvent* event) {
