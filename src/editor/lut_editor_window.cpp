@@ -5,12 +5,14 @@
 #include "color/color_picker.h"
 #include "editor/color_bar_view.h"
 #include "editor/distribution_graph.h"
+#include "editor/editor_undo.h"
 #include "editor/node_tab_strip.h"
 #include "editor/reporting_errors.h"
 #include "editor/value_layouts.h"
 #include "editor/value_rows_panel.h"
 #include "util/form_on_top.h"
 
+#include <QAction>
 #include <QApplication>
 #include <QGridLayout>
 #include <QGroupBox>
@@ -37,6 +39,7 @@ LutEditorWindow::LutEditorWindow(QWidget* parent)
     : QDialog(parent), model_(std::make_unique<LutEditorModel>()) {
     setObjectName("lut");
     setWindowTitle("Color LUT");
+    undo_ = std::make_unique<EditorUndo>(*model_, *this);
     buildControls();
     resize(980, 600);
     MiscFiles::FormOnTop(*this, true);
@@ -102,8 +105,9 @@ void LutEditorWindow::buildControls() {
     NoDataColor_->setToolTip("Colour of values above the last node");
     Label1->setBuddy(NoDataColor_);
     NoDataColor_->setColor(model.noDataColor());
-    connect(NoDataColor_, &ColorPicker::Changed, this,
-            guarded(this, [this](ColorValue color) { model_->setNoDataColor(color); }));
+    connect(NoDataColor_, &ColorPicker::Changed, this, guarded(this, [this](ColorValue color) {
+                model_->recorded("Set no-data colour", [&] { model_->setNoDataColor(color); });
+            }));
     auto* noData = new QHBoxLayout;
     noData->addWidget(Label1);
     noData->addWidget(NoDataColor_);
@@ -137,6 +141,7 @@ void LutEditorWindow::buildControls() {
     auto* buttons = new QHBoxLayout;
     buttons->addWidget(OpenBrowser);
     buttons->addWidget(cmdSave);
+    addUndoButtons(*buttons, cmdSave);
     buttons->addStretch(1);
     buttons->addWidget(Command1);
     buttons->addSpacing(12);
@@ -148,6 +153,26 @@ void LutEditorWindow::buildControls() {
     layout->addLayout(buttons);
 
     setTabOrder(GraphColorTab_, Indiv);
+}
+
+// Small buttons for the history, after `previous` in the tab order; their
+// tooltips name the step they take back or make again.
+void LutEditorWindow::addUndoButtons(QHBoxLayout& row, QWidget* previous) {
+    row.addSpacing(12);
+    for (QAction* action : {undo_->undoAction(), undo_->redoAction()}) {
+        const QString caption = action == undo_->undoAction() ? "Undo" : "Redo";
+        auto* b = button(this, caption.toLatin1().constData(), caption);
+        connect(b, &QPushButton::clicked, this, guarded(this, [action] { action->trigger(); }));
+        const auto follow = [b, action] {
+            b->setEnabled(action->isEnabled());
+            b->setToolTip(action->text());
+        };
+        follow();
+        connect(action, &QAction::changed, b, guarded(b, follow));
+        row.addWidget(b);
+        setTabOrder(previous, b);
+        previous = b;
+    }
 }
 
 void LutEditorWindow::InitFromOrderedArray(const VariantRows& rows, std::int32_t extra) {

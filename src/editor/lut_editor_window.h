@@ -12,6 +12,7 @@
 #include <memory>
 #include <vector>
 
+class QHBoxLayout;
 class QLabel;
 class QLineEdit;
 class QPushButton;
@@ -21,6 +22,7 @@ namespace huebase {
 class ColorBarView;
 class ColorPicker;
 class DistributionGraph;
+class EditorUndo;
 class NodeTabStrip;
 class ValueRowsPanel;
 
@@ -76,8 +78,11 @@ private:
     void noDataColorChanged() override;
     void buildControls();
     void indivClicked();
+    void addUndoButtons(QHBoxLayout& row, QWidget* previous);
 
     std::unique_ptr<LutEditorModel> model_;
+    // Listens to the model, so it goes before it.
+    std::unique_ptr<EditorUndo> undo_;
     DistributionGraph* Graph_ = nullptr;
     NodeTabStrip* GraphColorTab_ = nullptr;
     ColorBarView* ColorBar_ = nullptr;

@@ -12,8 +12,10 @@ void linkLibrary(LutEditorWindow& editor, const std::string& programFolder) {
                          LutLibrary::browse(&editor, programFolder, editor.DataMin(),
                                             editor.DataMax(),
                                             [&editor](const LutTable& table, ColorValue noData) {
-                                                editor.SetLutTable(table);
-                                                editor.setNoDataColor(noData);
+                                                editor.model().recorded("Library ramp", [&] {
+                                                    editor.SetLutTable(table);
+                                                    editor.setNoDataColor(noData);
+                                                });
                                             });
                      }));
     QObject::connect(&editor, &LutEditorWindow::saveRequested, &editor,

@@ -22,6 +22,7 @@
 
 #include <gtest/gtest.h>
 
+#include <functional>
 #include <stdexcept>
 #include <string>
 
@@ -386,6 +387,113 @@ TEST_F(GraphEditing, KeyboardMovesAndDeletesTheCurrentNode) {
     QTest::keyClick(&tabs, Qt::Key_Backtab);
     QTest::keyClick(&tabs, Qt::Key_Delete);
     EXPECT_EQ(e.values(), (std::vector<float>{0, 49, 200}));
+}
+
+struct UndoRedo : GraphEditing {
+    QPushButton& undo() { return e.find<QPushButton>("Undo"); }
+    QPushButton& redo() { return e.find<QPushButton>("Redo"); }
+    // The ramp the controls show: row values, tab tooltips and no-data swatch.
+    std::vector<QString> shown() {
+        std::vector<QString> result;
+        for (int k = 0; k < e.model().rowCount(); ++k)
+            result.push_back(QString::number(e.panel().showRow(k).GetValue()) + " " +
+                             e.tabs().tabToolTip(k));
+        result.push_back(QString::number(e.find<ColorPicker>("NoDataColor").color()));
+        return result;
+    }
+};
+
+TEST_F(UndoRedo, EveryKindOfChangeIsOneStepTheButtonsUndoAndRedo) {
+    const struct {
+        const char* name;
+        std::function<void(ShownEditor&)> change;
+    } cases[] = {
+        {"Add node", [this](ShownEditor&) { release(85); }},
+        {"Delete node",
+         [](ShownEditor& e) {
+             QTest::mouseClick(&e.tabs(), Qt::RightButton, Qt::ControlModifier, e.tabCentre(1));
+         }},
+        {"Move node",
+         [this](ShownEditor& e) {
+             QTest::mouseClick(&e.tabs(), Qt::RightButton, Qt::ShiftModifier, e.tabCentre(1));
+             for (double x : {70, 90, 110})
+                 ShownEditor::moveTo(e.graph(), e.graphPoint(x, 10));
+             release(110, Qt::RightButton);
+         }},
+        {"Move node",
+         [](ShownEditor& e) {
+             e.tabs().setFocus();
+             e.tabs().setCurrentTab(1);
+             QTest::keyClick(&e.tabs(), Qt::Key_Left);
+         }},
+        {"Set value", [](ShownEditor& e) { e.type(e.panel().showRow(1), "60"); }},
+        {"Set method", [](ShownEditor& e) { e.panel().showRow(1).SetMode(MethodNone); }},
+        {"Set colour",
+         [](ShownEditor& e) {
+             e.panel().showRow(1).findChild<ColorPicker*>("ColorPicker1")->setColor(0x00FFFF);
+         }},
+        {"Set no-data colour",
+         [](ShownEditor& e) { e.find<ColorPicker>("NoDataColor").setColor(0x00FF00); }},
+        {"Individual values",
+         [](ShownEditor& e) { QTest::mouseClick(&e.find<QPushButton>("Indiv"), Qt::LeftButton); }},
+        {"Reset",
+         [](ShownEditor& e) {
+             QTest::mouseClick(&e.find<QPushButton>("Command1"), Qt::LeftButton);
+         }},
+    };
+    EXPECT_FALSE(undo().isEnabled());
+    EXPECT_FALSE(redo().isEnabled());
+    for (const auto& c : cases) {
+        const RampState before = e.model().rampState();
+        const std::vector<QString> shownBefore = shown();
+        c.change(e);
+        const RampState after = e.model().rampState();
+        const std::vector<QString> shownAfter = shown();
+        ASSERT_NE(after, before) << c.name;
+        EXPECT_EQ(undo().toolTip(), QString("Undo ") + c.name);
+        EXPECT_TRUE(undo().isEnabled());
+        EXPECT_FALSE(redo().isEnabled());
+
+        QTest::mouseClick(&undo(), Qt::LeftButton);
+        EXPECT_EQ(e.model().rampState(), before) << c.name;
+        EXPECT_EQ(e.model().lutTable(), before.rows.toTable()) << c.name;
+        EXPECT_EQ(shown(), shownBefore) << c.name;
+        EXPECT_EQ(redo().toolTip(), QString("Redo ") + c.name);
+        ASSERT_TRUE(redo().isEnabled());
+
+        QTest::mouseClick(&redo(), Qt::LeftButton);
+        EXPECT_EQ(e.model().rampState(), after) << c.name;
+        EXPECT_EQ(shown(), shownAfter) << c.name;
+        EXPECT_FALSE(redo().isEnabled());
+    }
+    EXPECT_EQ(e.owner.received.size(), 1u) << "undo and redo send no table, as SetLutTable";
+}
+
+TEST_F(UndoRedo, KeysUndoTheRampExceptTheTextBeingTypedAndAThousandStepsGoBack) {
+    QLineEdit& box = *e.panel().showRow(1).findChild<QLineEdit*>("txtValue");
+    e.type(e.panel().showRow(1), "60");
+    box.setFocus();
+    QTest::keyClicks(&box, "7");
+    QTest::keyClick(&box, Qt::Key_Z, Qt::ControlModifier);
+    EXPECT_EQ(box.text(), "60") << "the box undoes its own typing first";
+    EXPECT_EQ(e.model().row(1).value, 60.0f);
+    QTest::keyClick(&box, Qt::Key_Z, Qt::ControlModifier);
+    EXPECT_EQ(e.model().row(1).value, 50.0f) << "then the ramp";
+    EXPECT_EQ(box.text(), "50");
+    QTest::keyClick(&box, Qt::Key_Y, Qt::ControlModifier);
+    EXPECT_EQ(e.model().row(1).value, 60.0f);
+    QTest::keyClick(&box, Qt::Key_Z, Qt::ControlModifier);
+    QTest::keyClick(&box, Qt::Key_Z, Qt::ControlModifier | Qt::ShiftModifier);
+    EXPECT_EQ(e.model().row(1).value, 60.0f);
+
+    const RampState start = e.model().rampState();
+    for (int k = 1; k <= 1000; ++k)
+        e.model().setColor(2, k);
+    for (int k = 0; k < 1000; ++k)
+        QTest::keyClick(&e.tabs(), Qt::Key_Z, Qt::ControlModifier);
+    EXPECT_EQ(e.model().rampState(), start);
+    QTest::keyClick(&e.tabs(), Qt::Key_Z, Qt::ControlModifier);
+    EXPECT_EQ(e.model().row(1).value, 60.0f) << "steps beyond a thousand are let go";
 }
 
 } // namespace

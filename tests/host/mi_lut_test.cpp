@@ -98,7 +98,7 @@ TEST_F(MILutTest, ItsOwnOkEndsTheProgramWithoutTouchingEitherFile) {
     EXPECT_TRUE(services_.messages().empty());
 }
 
-TEST_F(MILutTest, TheEditorsLibraryButtonFitsARampFromMyLutsIntoTheEditor) {
+TEST_F(MILutTest, TheEditorsLibraryButtonFitsARampFromMyLutsIntoTheEditorAsOneStep) {
     folder_.write("col.tmp", "100,4\n300,1\n");
     std::filesystem::create_directory(folder_.path() / "myLuts");
     // Spanning the data on both sides, so every fitting mode lands on 100..300.
@@ -107,6 +107,7 @@ TEST_F(MILutTest, TheEditorsLibraryButtonFitsARampFromMyLutsIntoTheEditor) {
                             {400.0f, MethodLin, 0xFF0000, 400.0f}};
     folder_.write("myLuts/ramp.lut", LutFile::text(saved, 0x123456, '.'));
     ASSERT_TRUE(window_.loadValues());
+    const RampState before = editor().model().rampState();
 
     testing::whenModalOpens<LUTBrowser>([](LUTBrowser& browser) {
         ASSERT_EQ(browser.rows().size(), 1u);
@@ -121,6 +122,9 @@ TEST_F(MILutTest, TheEditorsLibraryButtonFitsARampFromMyLutsIntoTheEditor) {
     EXPECT_EQ(table[1].color, 0x0000FF);
     EXPECT_EQ(table.back().value, 300.0f);
     EXPECT_EQ(editor().noDataColor(), 0x123456);
+
+    click(editor(), "Undo"); // table and no-data colour together
+    EXPECT_EQ(editor().model().rampState(), before);
 }
 
 } // namespace
