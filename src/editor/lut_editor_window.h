@@ -3,6 +3,7 @@
 #include "core/lut_editor.h"
 #include "core/lut_node.h"
 #include "editor/distribution.h"
+#include "editor/graph_settings.h"
 #include "editor/lut_editor_listener.h"
 #include "editor/lut_editor_model.h"
 
@@ -12,6 +13,8 @@
 #include <memory>
 #include <vector>
 
+class QCheckBox;
+class QComboBox;
 class QLabel;
 class QLineEdit;
 class QPushButton;
@@ -60,10 +63,16 @@ public:
     float DataMax() const noexcept { return model_->DataMax(); }
     void showModal() override;
 
+    // The graph's count scale and ramp fill, as the controls beside it show.
+    GraphSettings graphSettings() const;
+    void setGraphSettings(const GraphSettings& settings);
+
 signals:
     // OpenBrowser and cmdSave, for the library to answer.
     void openBrowserRequested();
     void saveRequested();
+    // The user chose another count scale or turned the ramp fill on or off.
+    void graphSettingsChanged();
 
 public slots:
     // OK: sends the table, tells the owner it is final and hides the window.
@@ -76,6 +85,7 @@ private:
     void noDataColorChanged() override;
     void buildControls();
     void indivClicked();
+    QLayout* buildGraphOptions();
 
     std::unique_ptr<LutEditorModel> model_;
     DistributionGraph* Graph_ = nullptr;
@@ -84,6 +94,8 @@ private:
     ValueRowsPanel* rows_ = nullptr;
     QLineEdit* Xtxt_ = nullptr;
     ColorPicker* NoDataColor_ = nullptr;
+    QComboBox* countScale_ = nullptr;
+    QCheckBox* rampFill_ = nullptr;
 };
 
 } // namespace huebase
