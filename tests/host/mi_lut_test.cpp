@@ -12,6 +12,7 @@
 #include "support/scratch_folder.h"
 #include "support/service_recorder.h"
 
+#include <QCheckBox>
 #include <QPushButton>
 #include <QTest>
 
@@ -121,6 +122,24 @@ TEST_F(MILutTest, TheEditorsLibraryButtonFitsARampFromMyLutsIntoTheEditor) {
     EXPECT_EQ(table[1].color, 0x0000FF);
     EXPECT_EQ(table.back().value, 300.0f);
     EXPECT_EQ(editor().noDataColor(), 0x123456);
+}
+
+TEST(MILutGraphSettings, TheEditorStartsWithTheFoldersGraphSettingsAndWritesTheUsersChanges) {
+    testing::ScratchFolder folder;
+    folder.write("huebase.ini", "count_scale=sqrt\n");
+    testing::ServiceRecorder services;
+    NoNotifier notifier;
+    MILut window{folder.file(""), notifier};
+    auto& editor = dynamic_cast<LutEditorWindow&>(window.LUTCtl1().editor());
+    EXPECT_EQ(editor.graphSettings(), (GraphSettings{CountScale(CountScale::Kind::SquareRoot)}));
+
+    editor.show();
+    QTest::mouseClick(editor.findChild<QCheckBox*>("RampFill"), Qt::LeftButton);
+    std::ostringstream text;
+    text << std::ifstream(folder.path() / "huebase.ini").rdbuf();
+    EXPECT_EQ(text.str(), "count_scale=sqrt\nramp_fill=1\n");
+    EXPECT_TRUE(services.messages().empty());
+    EXPECT_FALSE(services.ended());
 }
 
 } // namespace
