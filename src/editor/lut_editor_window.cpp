@@ -4,6 +4,7 @@
 
 #include "color/color_picker.h"
 #include "editor/color_bar_view.h"
+#include "editor/count_axis_view.h"
 #include "editor/distribution_graph.h"
 #include "editor/editor_undo.h"
 #include "editor/node_tab_strip.h"
@@ -14,6 +15,8 @@
 
 #include <QAction>
 #include <QApplication>
+#include <QCheckBox>
+#include <QComboBox>
 #include <QGridLayout>
 #include <QGroupBox>
 #include <QHBoxLayout>
@@ -60,11 +63,13 @@ void LutEditorWindow::buildControls() {
     Graph_ = new DistributionGraph(model, this);
     GraphColorTab_ = new NodeTabStrip(model, this);
     ColorBar_ = new ColorBarView(model, this);
-    auto* plot = new QVBoxLayout;
+    auto* plot = new QGridLayout;
     plot->setSpacing(0);
-    plot->addWidget(Graph_, 1);
-    plot->addWidget(GraphColorTab_);
-    plot->addWidget(ColorBar_);
+    plot->addWidget(new CountAxisView(*Graph_, this), 0, 0);
+    plot->addWidget(Graph_, 0, 1);
+    plot->addWidget(GraphColorTab_, 1, 1);
+    plot->addWidget(ColorBar_, 2, 1);
+    plot->setRowStretch(0, 1);
 
     auto* valueLabel = new QLabel("&Value:", this);
     Xtxt_ = new QLineEdit(this);
@@ -90,6 +95,7 @@ void LutEditorWindow::buildControls() {
     readout->addWidget(hint, 1);
 
     auto* left = new QVBoxLayout;
+    left->addLayout(buildGraphOptions());
     left->addLayout(plot, 1);
     left->addLayout(readout);
 
@@ -173,6 +179,50 @@ void LutEditorWindow::addUndoButtons(QHBoxLayout& row, QWidget* previous) {
         setTabOrder(previous, b);
         previous = b;
     }
+}
+
+// The count scale and the ramp fill sit above the graph they change.
+QLayout* LutEditorWindow::buildGraphOptions() {
+    auto* label = new QLabel("&Count scale:", this);
+    countScale_ = new QComboBox(this);
+    countScale_->setObjectName("CountScale");
+    countScale_->setAccessibleName("Count scale");
+    countScale_->setToolTip("How counts are measured up the graph");
+    for (const CountScale::Kind kind : CountScale::kKinds)
+        countScale_->addItem(QString::fromUtf8(CountScale(kind).label()), static_cast<int>(kind));
+    label->setBuddy(countScale_);
+    rampFill_ = new QCheckBox("&Fill with ramp", this);
+    rampFill_->setObjectName("RampFill");
+    rampFill_->setAccessibleName("Fill with ramp");
+    rampFill_->setToolTip("Colour the area under the curve as the ramp colours each value");
+    connect(countScale_, &QComboBox::activated, this, guarded(this, [this] {
+                Graph_->setCountScale(graphSettings().countScale);
+                emit graphSettingsChanged();
+            }));
+    connect(rampFill_, &QCheckBox::clicked, this, guarded(this, [this](bool on) {
+                Graph_->setRampFill(on);
+                emit graphSettingsChanged();
+            }));
+    auto* row = new QHBoxLayout;
+    row->addWidget(label);
+    row->addWidget(countScale_);
+    row->addSpacing(12);
+    row->addWidget(rampFill_);
+    row->addStretch(1);
+    return row;
+}
+
+GraphSettings LutEditorWindow::graphSettings() const {
+    return {CountScale(static_cast<CountScale::Kind>(countScale_->currentData().toInt())),
+            rampFill_->isChecked()};
+}
+
+void LutEditorWindow::setGraphSettings(const GraphSettings& settings) {
+    countScale_->setCurrentIndex(
+        countScale_->findData(static_cast<int>(settings.countScale.kind())));
+    rampFill_->setChecked(settings.rampFill);
+    Graph_->setCountScale(settings.countScale);
+    Graph_->setRampFill(settings.rampFill);
 }
 
 void LutEditorWindow::InitFromOrderedArray(const VariantRows& rows, std::int32_t extra) {

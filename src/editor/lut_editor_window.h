@@ -3,6 +3,7 @@
 #include "core/lut_editor.h"
 #include "core/lut_node.h"
 #include "editor/distribution.h"
+#include "editor/graph_settings.h"
 #include "editor/lut_editor_listener.h"
 #include "editor/lut_editor_model.h"
 
@@ -13,6 +14,8 @@
 #include <vector>
 
 class QHBoxLayout;
+class QCheckBox;
+class QComboBox;
 class QLabel;
 class QLineEdit;
 class QPushButton;
@@ -62,10 +65,16 @@ public:
     float DataMax() const noexcept { return model_->DataMax(); }
     void showModal() override;
 
+    // The graph's count scale and ramp fill, as the controls beside it show.
+    GraphSettings graphSettings() const;
+    void setGraphSettings(const GraphSettings& settings);
+
 signals:
     // OpenBrowser and cmdSave, for the library to answer.
     void openBrowserRequested();
     void saveRequested();
+    // The user chose another count scale or turned the ramp fill on or off.
+    void graphSettingsChanged();
 
 public slots:
     // OK: sends the table, tells the owner it is final and hides the window.
@@ -79,6 +88,7 @@ private:
     void buildControls();
     void indivClicked();
     void addUndoButtons(QHBoxLayout& row, QWidget* previous);
+    QLayout* buildGraphOptions();
 
     std::unique_ptr<LutEditorModel> model_;
     // Listens to the model, so it goes before it.
@@ -89,6 +99,8 @@ private:
     ValueRowsPanel* rows_ = nullptr;
     QLineEdit* Xtxt_ = nullptr;
     ColorPicker* NoDataColor_ = nullptr;
+    QComboBox* countScale_ = nullptr;
+    QCheckBox* rampFill_ = nullptr;
 };
 
 } // namespace huebase

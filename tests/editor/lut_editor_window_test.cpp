@@ -12,12 +12,15 @@
 #include "support/accessible_names.h"
 
 #include <QApplication>
+#include <QCheckBox>
+#include <QComboBox>
 #include <QLabel>
 #include <QLineEdit>
 #include <QMouseEvent>
 #include <QPushButton>
 #include <QRegularExpression>
 #include <QScrollBar>
+#include <QSignalSpy>
 #include <QTest>
 
 #include <gtest/gtest.h>
@@ -494,6 +497,43 @@ TEST_F(UndoRedo, KeysUndoTheRampExceptTheTextBeingTypedAndAThousandStepsGoBack) 
     EXPECT_EQ(e.model().rampState(), start);
     QTest::keyClick(&e.tabs(), Qt::Key_Z, Qt::ControlModifier);
     EXPECT_EQ(e.model().row(1).value, 60.0f) << "steps beyond a thousand are let go";
+}
+
+TEST(LutEditorWindow, CountScaleAndRampFillRedrawTheGraphAndAreReported) {
+    ShownEditor e;
+    e.model().InitFromOrderedArray({{0, 1}, {100, 9999}, {200, 99}});
+    const ColorValue green = composeColor(200, 255, 0);
+    e.window.SetLutTable({node(0, MethodLin, green), node(200, MethodLin, green, 200)});
+    QSignalSpy changed(&e.window, &LutEditorWindow::graphSettingsChanged);
+    const auto colourAt = [&](double x, double count) {
+        return e.graph().grab().toImage().pixelColor(e.graphPoint(x, count));
+    };
+    // Half way to the spike the line stands near count 5000 when linear and
+    // near count 140 on the logarithmic scale, where 99 is half way up to 9999.
+    EXPECT_NE(colourAt(50, 20), QColor(200, 255, 0)) << "no fill by default";
+
+    auto& scale = e.find<QComboBox>("CountScale");
+    scale.setFocus();
+    QTest::keyClick(&scale, Qt::Key_End);
+    EXPECT_EQ(changed.count(), 1);
+    EXPECT_EQ(e.window.graphSettings(), (GraphSettings{CountScale(CountScale::Kind::Logarithmic)}));
+    EXPECT_NEAR(e.graphPoint(50, 99).y(),
+                e.graphPoint(50, 9999).y() / 2 + e.graphPoint(50, 0).y() / 2, 1);
+
+    QTest::mouseClick(&e.find<QCheckBox>("RampFill"), Qt::LeftButton);
+    EXPECT_EQ(changed.count(), 2);
+    EXPECT_TRUE(e.window.graphSettings().rampFill);
+    EXPECT_EQ(colourAt(50, 20), QColor(200, 255, 0)) << "under the line";
+    EXPECT_NE(colourAt(50, 300), QColor(200, 255, 0)) << "above the line";
+    EXPECT_NE(colourAt(-4, 0.5), QColor(200, 255, 0)) << "outside the ramp";
+
+    ShownEditor::moveTo(e.graph(), e.graphPoint(80, 5));
+    EXPECT_EQ(e.graph().toolTip().toStdString(), "Value 100, count 9999");
+
+    e.window.setGraphSettings({});
+    EXPECT_EQ(e.find<QComboBox>("CountScale").currentText(), "Linear");
+    EXPECT_NE(colourAt(50, 20), QColor(200, 255, 0));
+    EXPECT_EQ(changed.count(), 2) << "only the user's changes are reported";
 }
 
 } // namespace

@@ -12,6 +12,7 @@
 #include "support/scratch_folder.h"
 #include "support/service_recorder.h"
 
+#include <QCheckBox>
 #include <QPushButton>
 #include <QTest>
 
@@ -125,6 +126,24 @@ TEST_F(MILutTest, TheEditorsLibraryButtonFitsARampFromMyLutsIntoTheEditorAsOneSt
 
     click(editor(), "Undo"); // table and no-data colour together
     EXPECT_EQ(editor().model().rampState(), before);
+}
+
+TEST(MILutGraphSettings, TheEditorStartsWithTheFoldersGraphSettingsAndWritesTheUsersChanges) {
+    testing::ScratchFolder folder;
+    folder.write("huebase.ini", "count_scale=sqrt\n");
+    testing::ServiceRecorder services;
+    NoNotifier notifier;
+    MILut window{folder.file(""), notifier};
+    auto& editor = dynamic_cast<LutEditorWindow&>(window.LUTCtl1().editor());
+    EXPECT_EQ(editor.graphSettings(), (GraphSettings{CountScale(CountScale::Kind::SquareRoot)}));
+
+    editor.show();
+    QTest::mouseClick(editor.findChild<QCheckBox*>("RampFill"), Qt::LeftButton);
+    std::ostringstream text;
+    text << std::ifstream(folder.path() / "huebase.ini").rdbuf();
+    EXPECT_EQ(text.str(), "count_scale=sqrt\nramp_fill=1\n");
+    EXPECT_TRUE(services.messages().empty());
+    EXPECT_FALSE(services.ended());
 }
 
 } // namespace
