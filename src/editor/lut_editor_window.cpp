@@ -18,6 +18,7 @@
 #include <QLabel>
 #include <QLineEdit>
 #include <QPushButton>
+#include <QShowEvent>
 #include <QVBoxLayout>
 
 namespace huebase {
@@ -129,8 +130,10 @@ void LutEditorWindow::buildControls() {
     auto* OK = button(this, "OK", "OK");
     connect(OpenBrowser, &QPushButton::clicked, this, &LutEditorWindow::openBrowserRequested);
     connect(cmdSave, &QPushButton::clicked, this, &LutEditorWindow::saveRequested);
-    connect(Command1, &QPushButton::clicked, this,
-            guarded(this, [this] { reportingErrors([&] { model_->Reset(); }); }));
+    connect(Command1, &QPushButton::clicked, this, guarded(this, [this] {
+                keepRampIfChanged();
+                reportingErrors([&] { model_->Reset(); });
+            }));
     connect(Cancel, &QPushButton::clicked, this, guarded(this, [this] { reject(); }));
     connect(OK, &QPushButton::clicked, this, guarded(this, [this] { accept(); }));
 
@@ -182,13 +185,38 @@ void LutEditorWindow::indivClicked() {
     QApplication::restoreOverrideCursor();
 }
 
+void LutEditorWindow::showEvent(QShowEvent* event) {
+    if (!event->spontaneous())
+        shownRamp_ = currentRamp();
+    QDialog::showEvent(event);
+}
+
+LutEditorWindow::Ramp LutEditorWindow::currentRamp() const {
+    return {model_->rows().toTable(), model_->noDataColor()};
+}
+
+// A window never shown holds nothing the user made. A ramp already kept is
+// not kept again: a Reset that leaves only the no-data colour changed would
+// otherwise keep the same ramp once more on the way out.
+void LutEditorWindow::keepRampIfChanged() {
+    if (!shownRamp_)
+        return;
+    Ramp ramp = currentRamp();
+    if (ramp == *shownRamp_ || ramp == keptRamp_)
+        return;
+    keptRamp_ = ramp;
+    emit rampToKeep(ramp.table, ramp.noDataColor);
+}
+
 void LutEditorWindow::accept() {
     if (!reportingErrors([&] { model_->OK(); }))
         return;
+    keepRampIfChanged();
     QDialog::accept();
 }
 
 void LutEditorWindow::reject() {
+    keepRampIfChanged();
     reportingErrors([&] { model_->Cancel(); });
     // The program has ended; where an exit handler lets it go on (tests), the
     // window must not stay open behind a modal loop.

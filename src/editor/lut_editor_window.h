@@ -10,6 +10,7 @@
 
 #include <cstdint>
 #include <memory>
+#include <optional>
 #include <vector>
 
 class QLabel;
@@ -64,6 +65,11 @@ signals:
     // OpenBrowser and cmdSave, for the library to answer.
     void openBrowserRequested();
     void saveRequested();
+    // The editor ends (OK, Cancel, Escape, closing) or is Reset with a ramp
+    // other than the one it was last shown with: the ramp it had, for the
+    // host to keep. Raised before the window hides or the program ends, at
+    // most once for the same ramp.
+    void rampToKeep(const huebase::LutTable& table, huebase::ColorValue noDataColor);
 
 public slots:
     // OK: sends the table, tells the owner it is final and hides the window.
@@ -72,10 +78,24 @@ public slots:
     // back, then the program ends.
     void reject() override;
 
+protected:
+    // Each showing (not a restore from the task bar) takes the ramp it
+    // starts with as the one a way out compares against.
+    void showEvent(QShowEvent* event) override;
+
 private:
+    // The nodes and the no-data colour together, as kept.
+    struct Ramp {
+        LutTable table;
+        ColorValue noDataColor = 0;
+        friend bool operator==(const Ramp&, const Ramp&) = default;
+    };
+
     void noDataColorChanged() override;
     void buildControls();
     void indivClicked();
+    Ramp currentRamp() const;
+    void keepRampIfChanged();
 
     std::unique_ptr<LutEditorModel> model_;
     DistributionGraph* Graph_ = nullptr;
@@ -84,6 +104,8 @@ private:
     ValueRowsPanel* rows_ = nullptr;
     QLineEdit* Xtxt_ = nullptr;
     ColorPicker* NoDataColor_ = nullptr;
+    std::optional<Ramp> shownRamp_;
+    std::optional<Ramp> keptRamp_;
 };
 
 } // namespace huebase
