@@ -237,6 +237,10 @@ bool LutEditorModel::releaseOnGraph(float x, MouseButton button) {
     dragIndex_ = -1;
     if (button == MouseButton::Right)
         return false;
+    return insertNodeAt(x);
+}
+
+bool LutEditorModel::insertNodeAt(float x) {
     int inserted = -1;
     {
         LoadingScope loading(loading_);
@@ -244,6 +248,7 @@ bool LutEditorModel::releaseOnGraph(float x, MouseButton button) {
     }
     if (inserted < 0)
         return false;
+    dragIndex_ = -1;
     notifyRowsReset();
     placeTabs();
     PaintColorBar();

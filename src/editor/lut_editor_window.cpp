@@ -5,7 +5,9 @@
 #include "color/color_picker.h"
 #include "editor/color_bar_view.h"
 #include "editor/distribution_graph.h"
+#include "editor/graph_readout.h"
 #include "editor/node_tab_strip.h"
+#include "editor/node_value_prompt.h"
 #include "editor/reporting_errors.h"
 #include "editor/value_layouts.h"
 #include "editor/value_rows_panel.h"
@@ -17,7 +19,9 @@
 #include <QHBoxLayout>
 #include <QLabel>
 #include <QLineEdit>
+#include <QMenu>
 #include <QPushButton>
+#include <QShortcut>
 #include <QShowEvent>
 #include <QVBoxLayout>
 
@@ -75,9 +79,11 @@ void LutEditorWindow::buildControls() {
     auto* Indiv = button(this, "Indiv", "Individual values");
     Indiv->setToolTip("Add a node at every distinct data value");
     connect(Indiv, &QPushButton::clicked, this, guarded(this, [this] { indivClicked(); }));
-    auto* hint = new QLabel("Click the graph to add a node. On a node: Shift+right-drag moves it, "
-                            "Ctrl+right deletes it, left click picks its colour.",
-                            this);
+    auto* hint =
+        new QLabel("Click the graph to add a node. On a node: Shift+right-drag moves it, "
+                   "Ctrl+right deletes it, left click picks its colour. Insert adds a node at "
+                   "a typed value.",
+                   this);
     hint->setWordWrap(true);
     hint->setForegroundRole(QPalette::PlaceholderText);
     auto* readout = new QHBoxLayout;
@@ -151,6 +157,36 @@ void LutEditorWindow::buildControls() {
     layout->addLayout(buttons);
 
     setTabOrder(GraphColorTab_, Indiv);
+
+    // A node at a typed value: Insert anywhere in the window, or the context
+    // menu of the graph (suggesting the value under the pointer) and of the
+    // rows (suggesting the middle of the interval after the row).
+    auto* insert = new QShortcut(QKeySequence(Qt::Key_Insert), this);
+    connect(insert, &QShortcut::activated, this, guarded(this, [this] { insertTypedNode({}); }));
+    Graph_->setContextMenuPolicy(Qt::CustomContextMenu);
+    connect(Graph_, &QWidget::customContextMenuRequested, this, guarded(this, [this](QPoint pos) {
+                const double x = Graph_->valueAt(pos.x());
+                offerInsertMenu(Graph_, pos, QString::fromStdString(GraphReadout::xText(x)));
+            }));
+    rows_->setContextMenuPolicy(Qt::CustomContextMenu);
+    connect(rows_, &QWidget::customContextMenuRequested, this, guarded(this, [this](QPoint pos) {
+                const int k = rows_->rowAt(pos);
+                offerInsertMenu(rows_, pos,
+                                k < 0 ? QString() : NodeValuePrompt::middleAfter(*model_, k));
+            }));
+}
+
+void LutEditorWindow::offerInsertMenu(QWidget* source, QPoint pos, const QString& suggested) {
+    QMenu menu(this);
+    QAction* insert = menu.addAction("Insert node at value...");
+    insert->setShortcut(QKeySequence(Qt::Key_Insert));
+    if (menu.exec(source->mapToGlobal(pos)) == insert)
+        insertTypedNode(suggested);
+}
+
+void LutEditorWindow::insertTypedNode(const QString& suggested) {
+    if (const std::optional<float> x = NodeValuePrompt::ask(this, *model_, suggested))
+        reportingErrors([&] { model_->insertNodeAt(*x); });
 }
 
 void LutEditorWindow::InitFromOrderedArray(const VariantRows& rows, std::int32_t extra) {

@@ -96,6 +96,9 @@ private:
     void indivClicked();
     Ramp currentRamp() const;
     void keepRampIfChanged();
+    // "Insert node at value...": the value asked for, then inserted.
+    void insertTypedNode(const QString& suggested);
+    void offerInsertMenu(QWidget* source, QPoint pos, const QString& suggested);
 
     std::unique_ptr<LutEditorModel> model_;
     DistributionGraph* Graph_ = nullptr;

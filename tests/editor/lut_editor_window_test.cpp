@@ -10,7 +10,10 @@
 #include "editor/node_tab_strip.h"
 #include "editor/value_rows_panel.h"
 
+#include "support/service_recorder.h"
+
 #include <QApplication>
+#include <QInputDialog>
 #include <QLabel>
 #include <QLineEdit>
 #include <QMouseEvent>
@@ -332,6 +335,52 @@ TEST_F(GraphEditing, KeyboardMovesAndDeletesTheCurrentNode) {
     QTest::keyClick(&tabs, Qt::Key_Backtab);
     QTest::keyClick(&tabs, Qt::Key_Delete);
     EXPECT_EQ(e.values(), (std::vector<float>{0, 49, 200}));
+}
+
+TEST_F(GraphEditing, InsertAsksForAValueAndRefusesWhereNoNodeCanGo) {
+    testing::ServiceRecorder services;
+    const float x = 85.5f;
+    const ColorValue rampColor = e.model().rows().rampColorAt(1, x);
+    const std::vector<float> added{0, 50, x, 120, 200};
+    const struct {
+        const char* typed;
+        bool accept;
+        std::vector<float> values;
+        const char* message; // the start of it; empty: none
+    } cases[] = {
+        {"", false, start, ""},
+        {"abc", true, start, "\"abc\" is not a number"},
+        {"120", true, start, "There is already a node at 120"},
+        {"-5", true, start, "-5 lies outside the nodes (0 to 200)"},
+        {" 85.5 ", true, added, ""},
+    };
+    for (const auto& c : cases) {
+        SCOPED_TRACE(c.typed);
+        const std::size_t messages = services.messages().size();
+        QString label;
+        testing::whenModalOpens<QInputDialog>([&](QInputDialog& dialog) {
+            label = dialog.labelText();
+            dialog.setTextValue(c.typed);
+            c.accept ? dialog.accept() : dialog.reject();
+        });
+        e.window.activateWindow(); // back from the input, as a window manager does
+        ASSERT_TRUE(QTest::qWaitForWindowActive(&e.window));
+        e.tabs().setFocus();
+        QTest::keyClick(&e.tabs(), Qt::Key_Insert);
+        EXPECT_EQ(label, "Value of the new node, between 0 and 200:");
+        EXPECT_EQ(e.values(), c.values);
+        const std::string message = c.message;
+        if (message.empty()) {
+            EXPECT_EQ(services.messages().size(), messages);
+        } else {
+            ASSERT_EQ(services.messages().size(), messages + 1);
+            EXPECT_EQ(services.messages().back().text.rfind(message, 0), 0u)
+                << services.messages().back().text;
+        }
+    }
+    EXPECT_EQ(e.model().row(2).color, rampColor);
+    EXPECT_EQ(e.model().row(2).method, MethodLin);
+    EXPECT_EQ(e.panel().rowWidget(2)->GetValue(), x);
 }
 
 } // namespace
