@@ -13,13 +13,17 @@
 #include "support/service_recorder.h"
 
 #include <QApplication>
+#include <QComboBox>
+#include <QContextMenuEvent>
 #include <QInputDialog>
 #include <QLabel>
 #include <QLineEdit>
+#include <QMenu>
 #include <QMouseEvent>
 #include <QPushButton>
 #include <QScrollBar>
 #include <QTest>
+#include <QTimer>
 
 #include <gtest/gtest.h>
 
@@ -381,6 +385,38 @@ TEST_F(GraphEditing, InsertAsksForAValueAndRefusesWhereNoNodeCanGo) {
     EXPECT_EQ(e.model().row(2).color, rampColor);
     EXPECT_EQ(e.model().row(2).method, MethodLin);
     EXPECT_EQ(e.panel().rowWidget(2)->GetValue(), x);
+}
+
+TEST_F(GraphEditing, TheGraphsAndTheRowsContextMenusAskWithASuggestedValue) {
+    const QPoint onGraph = e.graphPoint(85, 10);
+    const struct {
+        QWidget* widget;
+        QPoint pos;
+        std::string suggested;
+    } places[] = {
+        {&e.graph(), onGraph, GraphReadout::xText(e.graph().valueAt(onGraph.x()))},
+        {e.panel().rowWidget(1)->findChild<QComboBox*>("cmbMethod"), {4, 4}, "85"},
+        {e.panel().rowWidget(3)->findChild<ColorPicker*>("ColorPicker1"), {4, 4}, "160"},
+    };
+    for (const auto& place : places) {
+        SCOPED_TRACE(place.suggested);
+        QTimer::singleShot(50, [] {
+            auto* menu = qobject_cast<QMenu*>(QApplication::activePopupWidget());
+            ASSERT_NE(menu, nullptr) << "no menu";
+            menu->setActiveAction(menu->actions().front());
+            QTest::keyClick(menu, Qt::Key_Return);
+        });
+        QString suggested;
+        testing::whenModalOpens<QInputDialog>([&](QInputDialog& dialog) {
+            suggested = dialog.textValue();
+            dialog.reject();
+        });
+        QContextMenuEvent event(QContextMenuEvent::Mouse, place.pos,
+                                place.widget->mapToGlobal(place.pos));
+        QApplication::sendEvent(place.widget, &event);
+        EXPECT_EQ(suggested.toStdString(), place.suggested);
+    }
+    EXPECT_EQ(e.values(), start);
 }
 
 } // namespace
