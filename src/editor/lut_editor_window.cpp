@@ -244,10 +244,11 @@ void LutEditorWindow::keepRampIfChanged() {
     emit rampToKeep(ramp.table, ramp.noDataColor);
 }
 
+// The ramp is kept first: the owner may end the program once it has the table.
 void LutEditorWindow::accept() {
+    keepRampIfChanged();
     if (!reportingErrors([&] { model_->OK(); }))
         return;
-    keepRampIfChanged();
     QDialog::accept();
 }
 
