@@ -34,6 +34,11 @@ ColorTableRow::ColorTableRow(QWidget* parent) : QWidget(parent) {
     ColorPicker1_->setObjectName("ColorPicker1");
     ColorPicker1_->setAccessibleName("Node colour");
 
+    // Neither has a menu of its own: a right click there opens the menu of
+    // whatever holds the row.
+    cmbMethod_->setContextMenuPolicy(Qt::NoContextMenu);
+    ColorPicker1_->setContextMenuPolicy(Qt::NoContextMenu);
+
     auto* layout = new QHBoxLayout(this);
     layout->setContentsMargins(2, 1, 2, 1);
     layout->setSpacing(4);

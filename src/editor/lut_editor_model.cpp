@@ -246,19 +246,22 @@ bool LutEditorModel::releaseOnGraph(float x, MouseButton button) {
     dragIndex_ = -1;
     if (button == MouseButton::Right)
         return false;
-    return recorded("Add node", [&] {
-        int inserted = -1;
-        {
-            LoadingScope loading(loading_);
-            inserted = rows_.insertAt(x);
-        }
-        if (inserted < 0)
-            return false;
-        notifyRowsReset();
-        placeTabs();
-        PaintColorBar();
-        return true;
-    });
+    return recorded("Add node", [&] { return insertNodeAt(x); });
+}
+
+bool LutEditorModel::insertNodeAt(float x) {
+    int inserted = -1;
+    {
+        LoadingScope loading(loading_);
+        inserted = rows_.insertAt(x);
+    }
+    if (inserted < 0)
+        return false;
+    dragIndex_ = -1;
+    notifyRowsReset();
+    placeTabs();
+    PaintColorBar();
+    return true;
 }
 
 int LutEditorModel::Indiv() {

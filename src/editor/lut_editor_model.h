@@ -138,6 +138,12 @@ public:
     // release strictly between two nodes inserts a node at x. True when a
     // node was added.
     bool releaseOnGraph(float x, MouseButton button);
+    // A node at a typed value, under the rules of a node added on the graph:
+    // only strictly between two nodes, with the method of the interval it
+    // splits and the colour the ramp gives x. False (nothing changed) on a
+    // node or outside the first and last node. Ends any drag, since the rows
+    // are renumbered.
+    bool insertNodeAt(float x);
     // "Individual values": every distinct value of AltiArrays becomes a node
     // (values on a node or outside the nodes are skipped). Returns the number
     // added; error 6 after inserting what fits when the rows fill up.

@@ -7,7 +7,9 @@
 #include "editor/count_axis_view.h"
 #include "editor/distribution_graph.h"
 #include "editor/editor_undo.h"
+#include "editor/graph_readout.h"
 #include "editor/node_tab_strip.h"
+#include "editor/node_value_prompt.h"
 #include "editor/reporting_errors.h"
 #include "editor/value_layouts.h"
 #include "editor/value_rows_panel.h"
@@ -22,7 +24,10 @@
 #include <QHBoxLayout>
 #include <QLabel>
 #include <QLineEdit>
+#include <QMenu>
 #include <QPushButton>
+#include <QShortcut>
+#include <QShowEvent>
 #include <QVBoxLayout>
 
 namespace huebase {
@@ -82,9 +87,11 @@ void LutEditorWindow::buildControls() {
     auto* Indiv = button(this, "Indiv", "Individual values");
     Indiv->setToolTip("Add a node at every distinct data value");
     connect(Indiv, &QPushButton::clicked, this, guarded(this, [this] { indivClicked(); }));
-    auto* hint = new QLabel("Click the graph to add a node. On a node: Shift+right-drag moves it, "
-                            "Ctrl+right deletes it, left click picks its colour.",
-                            this);
+    auto* hint =
+        new QLabel("Click the graph to add a node. On a node: Shift+right-drag moves it, "
+                   "Ctrl+right deletes it, left click picks its colour. Insert adds a node at "
+                   "a typed value.",
+                   this);
     hint->setWordWrap(true);
     hint->setForegroundRole(QPalette::PlaceholderText);
     auto* readout = new QHBoxLayout;
@@ -139,8 +146,10 @@ void LutEditorWindow::buildControls() {
     auto* OK = button(this, "OK", "OK");
     connect(OpenBrowser, &QPushButton::clicked, this, &LutEditorWindow::openBrowserRequested);
     connect(cmdSave, &QPushButton::clicked, this, &LutEditorWindow::saveRequested);
-    connect(Command1, &QPushButton::clicked, this,
-            guarded(this, [this] { reportingErrors([&] { model_->Reset(); }); }));
+    connect(Command1, &QPushButton::clicked, this, guarded(this, [this] {
+                keepRampIfChanged();
+                reportingErrors([&] { model_->Reset(); });
+            }));
     connect(Cancel, &QPushButton::clicked, this, guarded(this, [this] { reject(); }));
     connect(OK, &QPushButton::clicked, this, guarded(this, [this] { accept(); }));
 
@@ -159,6 +168,37 @@ void LutEditorWindow::buildControls() {
     layout->addLayout(buttons);
 
     setTabOrder(GraphColorTab_, Indiv);
+
+    // A node at a typed value: Insert anywhere in the window, or the context
+    // menu of the graph (suggesting the value under the pointer) and of the
+    // rows (suggesting the middle of the interval after the row).
+    auto* insert = new QShortcut(QKeySequence(Qt::Key_Insert), this);
+    connect(insert, &QShortcut::activated, this, guarded(this, [this] { insertTypedNode({}); }));
+    Graph_->setContextMenuPolicy(Qt::CustomContextMenu);
+    connect(Graph_, &QWidget::customContextMenuRequested, this, guarded(this, [this](QPoint pos) {
+                const double x = Graph_->valueAt(pos.x());
+                offerInsertMenu(Graph_, pos, QString::fromStdString(GraphReadout::xText(x)));
+            }));
+    rows_->setContextMenuPolicy(Qt::CustomContextMenu);
+    connect(rows_, &QWidget::customContextMenuRequested, this, guarded(this, [this](QPoint pos) {
+                const int k = rows_->rowAt(pos);
+                offerInsertMenu(rows_, pos,
+                                k < 0 ? QString() : NodeValuePrompt::middleAfter(*model_, k));
+            }));
+}
+
+void LutEditorWindow::offerInsertMenu(QWidget* source, QPoint pos, const QString& suggested) {
+    QMenu menu(this);
+    QAction* insert = menu.addAction("Insert node at value...");
+    insert->setShortcut(QKeySequence(Qt::Key_Insert));
+    if (menu.exec(source->mapToGlobal(pos)) == insert)
+        insertTypedNode(suggested);
+}
+
+void LutEditorWindow::insertTypedNode(const QString& suggested) {
+    if (const std::optional<float> x = NodeValuePrompt::ask(this, *model_, suggested))
+        reportingErrors(
+            [&] { model_->recorded("Insert node", [&] { return model_->insertNodeAt(*x); }); });
 }
 
 // Small buttons for the history, after `previous` in the tab order; their
@@ -257,13 +297,39 @@ void LutEditorWindow::indivClicked() {
     QApplication::restoreOverrideCursor();
 }
 
+void LutEditorWindow::showEvent(QShowEvent* event) {
+    if (!event->spontaneous())
+        shownRamp_ = currentRamp();
+    QDialog::showEvent(event);
+}
+
+LutEditorWindow::Ramp LutEditorWindow::currentRamp() const {
+    return {model_->rows().toTable(), model_->noDataColor()};
+}
+
+// A window never shown holds nothing the user made. A ramp already kept is
+// not kept again: a Reset that leaves only the no-data colour changed would
+// otherwise keep the same ramp once more on the way out.
+void LutEditorWindow::keepRampIfChanged() {
+    if (!shownRamp_)
+        return;
+    Ramp ramp = currentRamp();
+    if (ramp == *shownRamp_ || ramp == keptRamp_)
+        return;
+    keptRamp_ = ramp;
+    emit rampToKeep(ramp.table, ramp.noDataColor);
+}
+
+// The ramp is kept first: the owner may end the program once it has the table.
 void LutEditorWindow::accept() {
+    keepRampIfChanged();
     if (!reportingErrors([&] { model_->OK(); }))
         return;
     QDialog::accept();
 }
 
 void LutEditorWindow::reject() {
+    keepRampIfChanged();
     reportingErrors([&] { model_->Cancel(); });
     // The program has ended; where an exit handler lets it go on (tests), the
     // window must not stay open behind a modal loop.

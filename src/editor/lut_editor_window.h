@@ -11,6 +11,7 @@
 
 #include <cstdint>
 #include <memory>
+#include <optional>
 #include <vector>
 
 class QHBoxLayout;
@@ -75,6 +76,11 @@ signals:
     void saveRequested();
     // The user chose another count scale or turned the ramp fill on or off.
     void graphSettingsChanged();
+    // The editor ends (OK, Cancel, Escape, closing) or is Reset with a ramp
+    // other than the one it was last shown with: the ramp it had, for the
+    // host to keep. Raised before the window hides or the program ends, at
+    // most once for the same ramp.
+    void rampToKeep(const huebase::LutTable& table, huebase::ColorValue noDataColor);
 
 public slots:
     // OK: sends the table, tells the owner it is final and hides the window.
@@ -83,12 +89,29 @@ public slots:
     // back, then the program ends.
     void reject() override;
 
+protected:
+    // Each showing (not a restore from the task bar) takes the ramp it
+    // starts with as the one a way out compares against.
+    void showEvent(QShowEvent* event) override;
+
 private:
+    // The nodes and the no-data colour together, as kept.
+    struct Ramp {
+        LutTable table;
+        ColorValue noDataColor = 0;
+        friend bool operator==(const Ramp&, const Ramp&) = default;
+    };
+
     void noDataColorChanged() override;
     void buildControls();
     void indivClicked();
     void addUndoButtons(QHBoxLayout& row, QWidget* previous);
     QLayout* buildGraphOptions();
+    Ramp currentRamp() const;
+    void keepRampIfChanged();
+    // "Insert node at value...": the value asked for, then inserted.
+    void insertTypedNode(const QString& suggested);
+    void offerInsertMenu(QWidget* source, QPoint pos, const QString& suggested);
 
     std::unique_ptr<LutEditorModel> model_;
     // Listens to the model, so it goes before it.
@@ -101,6 +124,8 @@ private:
     ColorPicker* NoDataColor_ = nullptr;
     QComboBox* countScale_ = nullptr;
     QCheckBox* rampFill_ = nullptr;
+    std::optional<Ramp> shownRamp_;
+    std::optional<Ramp> keptRamp_;
 };
 
 } // namespace huebase

@@ -85,6 +85,13 @@ ColorTableRow* ValueRowsPanel::rowWidget(int k) const {
     return nullptr;
 }
 
+int ValueRowsPanel::rowAt(QPoint pos) const {
+    for (QWidget* w = childAt(pos); w != nullptr && w != this; w = w->parentWidget())
+        if (const auto* row = qobject_cast<const ColorTableRow*>(w))
+            return indexOf(*row);
+    return -1;
+}
+
 ColorTableRow& ValueRowsPanel::showRow(int k) {
     model_.rows().checkIndex(k);
     const int h = ColorTableRow::rowHeight();
