@@ -5,6 +5,7 @@
 #include "host/automation_notifier.h"
 #include "host/command_notifier.h"
 #include "host/mi_lut.h"
+#include "util/choice_list_accessible.h"
 #include "util/guarded_application.h"
 #include "util/messages.h"
 #include "util/program_exit.h"
@@ -58,6 +59,7 @@ int main(int argc, char* argv[]) {
     QApplication::setApplicationVersion(HUEBASE_VERSION);
     huebase::setMessageResponder(huebase::showQtMessageBox);
     huebase::setProgramExitHandler(huebase::endProcess);
+    huebase::ChoiceListAccessible::install();
 
     // Start-up measurements ask for the time the editor is first on screen.
     std::optional<huebase::FirstPaintStamp> paintStamp;

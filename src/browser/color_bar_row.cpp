@@ -22,10 +22,9 @@ namespace huebase {
 namespace {
 
 // A read-only, frameless text box: the row's texts are shown, not edited.
-QLineEdit* textBox(const char* name, const QString& accessibleName, QWidget* parent) {
+QLineEdit* textBox(const char* name, QWidget* parent) {
     auto* box = new QLineEdit(parent);
     box->setObjectName(name);
-    box->setAccessibleName(accessibleName);
     box->setReadOnly(true);
     box->setFrame(false);
     box->setFocusPolicy(Qt::NoFocus);
@@ -83,18 +82,18 @@ ColorBarRow::ColorBarRow(QWidget* parent)
     // Enter in the browser must not pick whichever row was made first.
     SelectBtn_->setAutoDefault(false);
     ColorBar_ = new RowColorBar(model_, this);
-    MinVal_ = textBox("MinVal", "Lower bound", this);
-    MaxVal_ = textBox("MaxVal", "Upper bound", this);
+    MinVal_ = textBox("MinVal", this);
+    MaxVal_ = textBox("MaxVal", this);
     MinVal_->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
     const int boundWidth = fontMetrics().horizontalAdvance("-00000.00") + 8;
     MinVal_->setFixedWidth(boundWidth);
     MaxVal_->setFixedWidth(boundWidth);
-    Pathtxt_ = textBox("Pathtxt", "File", this);
+    Pathtxt_ = textBox("Pathtxt", this);
     Pathtxt_->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
     QPalette dim = Pathtxt_->palette();
     dim.setColor(QPalette::Text, palette().color(QPalette::PlaceholderText));
     Pathtxt_->setPalette(dim);
-    Text1_ = textBox("Text1", "Name", this);
+    Text1_ = textBox("Text1", this);
     QFont bold = Text1_->font();
     bold.setBold(true);
     Text1_->setFont(bold);
@@ -205,9 +204,10 @@ void ColorBarRow::Refresh() {
     MaxVal_->setCursorPosition(0);
     Pathtxt_->setText(FilePath());
     Pathtxt_->setToolTip(QString::fromStdString(model_.pathToolTip()));
+    const QFileInfo file(QString(FilePath()).replace('\\', '/'));
     QString name = LutName();
     if (name.isEmpty() && !model_.Pathtxt().empty())
-        name = QFileInfo(QString(FilePath()).replace('\\', '/')).completeBaseName();
+        name = file.completeBaseName();
     Text1_->setText(name);
     Text1_->setFixedWidth(Text1_->fontMetrics().horizontalAdvance(name) + 12);
     note_->setText(noteFor(notes_));
@@ -216,7 +216,27 @@ void ColorBarRow::Refresh() {
     setToolTip(ToolTipText());
     SelectBtn_->setEnabled(!model_.lut().empty());
     SelectBtn_->setAccessibleDescription(name);
+    nameControls(file.fileName());
     ColorBar_->refresh();
+}
+
+// Every row has the same controls, so each is named after the row's file,
+// which is unique in the folder the rows come from.
+void ColorBarRow::nameControls(const QString& fileName) {
+    const auto named = [&](QWidget* control, const char* part) {
+        QString text = QString::fromLatin1(part);
+        if (fileName.isEmpty())
+            text[0] = text[0].toUpper();
+        else
+            text.prepend(fileName + ' ');
+        control->setAccessibleName(text);
+    };
+    SelectBtn_->setAccessibleName(QString("Select %1").arg(fileName).trimmed());
+    named(Text1_, "name");
+    named(Pathtxt_, "path");
+    named(MinVal_, "lower bound");
+    named(MaxVal_, "upper bound");
+    named(ColorBar_, "colour bar");
 }
 
 void ColorBarRow::SelectBtn_Click() {

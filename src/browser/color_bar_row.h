@@ -89,6 +89,7 @@ signals:
     void Selected(const huebase::LutTable& table, huebase::ColorValue noDataColor);
 
 private:
+    void nameControls(const QString& fileName);
     void setApplyOptionsProperty(int mode) { setApplyOptions(static_cast<std::int16_t>(mode)); }
     // Runs a load or fit, keeping its messages as notes.
     template <typename Change> void run(Change&& change);

@@ -110,6 +110,8 @@ void LUTBrowser::buildControls() {
     HScroll1_->setObjectName("HScroll1");
     VScroll1_ = new QScrollBar(Qt::Vertical, this);
     VScroll1_->setObjectName("VScroll1");
+    HScroll1_->setAccessibleName("Scroll colour tables sideways");
+    VScroll1_->setAccessibleName("Scroll colour tables");
     for (QScrollBar* bar : {HScroll1_, VScroll1_}) {
         connect(bar, &QScrollBar::valueChanged, this, guarded(this, [this] { scrollRows(); }));
         connect(bar, &QScrollBar::sliderMoved, this, guarded(this, [this] { scrollRows(); }));

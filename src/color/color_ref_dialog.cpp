@@ -256,7 +256,7 @@ QLayout* frmColorRef::buildValueColumns() {
 
         box.slider = new QScrollBar(Qt::Vertical, this);
         box.slider->setObjectName(QString("v") + info.letter);
-        box.slider->setAccessibleName(info.name);
+        box.slider->setAccessibleName(QString(info.name) + " slider");
         box.slider->setRange(0, boxMaximum(boxScale(id)));
         box.slider->setPageStep(16);
         box.slider->setMinimumHeight(110);
@@ -313,6 +313,9 @@ void frmColorRef::setColor(ColorValue color) {
 
 void frmColorRef::showEvent(QShowEvent* event) {
     QDialog::showEvent(event);
+    // One instance serves every opening: without this the focus would come
+    // back wherever the last opening left it.
+    boxes_[0].edit->setFocus(Qt::ActiveWindowFocusReason);
     guard(this, [this] { RefreshDisplay(); });
 }
 

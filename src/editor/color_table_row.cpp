@@ -34,6 +34,11 @@ ColorTableRow::ColorTableRow(QWidget* parent) : QWidget(parent) {
     ColorPicker1_->setObjectName("ColorPicker1");
     ColorPicker1_->setAccessibleName("Node colour");
 
+    // Neither has a menu of its own: a right click there opens the menu of
+    // whatever holds the row.
+    cmbMethod_->setContextMenuPolicy(Qt::NoContextMenu);
+    ColorPicker1_->setContextMenuPolicy(Qt::NoContextMenu);
+
     auto* layout = new QHBoxLayout(this);
     layout->setContentsMargins(2, 1, 2, 1);
     layout->setSpacing(4);
@@ -82,6 +87,17 @@ void ColorTableRow::SetLock(bool locked) {
 void ColorTableRow::SetValue(float value) {
     value_ = value;
     txtValue_->setText(QString::fromStdString(floatText(value)));
+}
+
+// Rebinding a row to the same node tells an assistive client nothing new.
+void ColorTableRow::setNumber(int number) {
+    if (number == number_)
+        return;
+    number_ = number;
+    const QString node = QString("Node %1 ").arg(number);
+    txtValue_->setAccessibleName(node + "value");
+    cmbMethod_->setAccessibleName(node + "method");
+    ColorPicker1_->setAccessibleName(node + "colour");
 }
 
 void ColorTableRow::pickColor() {

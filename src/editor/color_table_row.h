@@ -45,6 +45,10 @@ public:
     void SetValue(float value);
     float GetValue() const noexcept { return value_; }
 
+    // Names the three controls after the row's place in the table, counted
+    // from 1, so an assistive client says which node each belongs to.
+    void setNumber(int number);
+
     // Opens the swatch's colour choice, as a click on it does.
     void pickColor();
 
@@ -77,6 +81,7 @@ private:
     ColorValue color_ = 0;
     std::uint8_t method_ = 0;
     bool locked_ = false;
+    int number_ = 0; // 0: not yet named after a node
 };
 
 } // namespace huebase

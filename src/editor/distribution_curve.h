@@ -1,8 +1,10 @@
 #pragma once
 
 #include "core/color_value.h"
+#include "editor/count_scale.h"
 #include "editor/distribution.h"
 
+#include <optional>
 #include <vector>
 
 namespace huebase {
@@ -22,6 +24,7 @@ struct CurveSegment {
 // What the graph draws for a distribution, in graph coordinates: a thin white
 // line through consecutive (value, count) rows, then thicker black points on
 // every row but the last. The widget maps and draws them in this order.
+// Heights are the counts measured on the given count scale.
 class DistributionCurve {
 public:
     static constexpr int kLineWidth = 1;
@@ -30,10 +33,14 @@ public:
     static constexpr ColorValue kPointColor = 0x000000;
 
     DistributionCurve() = default;
-    explicit DistributionCurve(const std::vector<DistributionRow>& rows);
+    explicit DistributionCurve(const std::vector<DistributionRow>& rows, CountScale scale = {});
 
     const std::vector<CurveSegment>& lines() const noexcept { return lines_; }
     const std::vector<CurvePoint>& points() const noexcept { return points_; }
+
+    // The height of the line at value x, read along the segment over x;
+    // nothing outside the first and last values.
+    std::optional<double> heightAt(double x) const;
 
 private:
     std::vector<CurveSegment> lines_;

@@ -1,6 +1,7 @@
 #include "editor/distribution_graph.h"
 
 #include "color/qt_color.h"
+#include "core/color_bar_columns.h"
 #include "editor/axis_ticks.h"
 #include "editor/graph_readout.h"
 #include "editor/lut_editor_model.h"
@@ -11,6 +12,10 @@
 #include <QPainter>
 
 #include <algorithm>
+#include <cmath>
+#include <cstdint>
+#include <optional>
+#include <string>
 #include <vector>
 
 namespace huebase {
@@ -41,9 +46,18 @@ QSize DistributionGraph::sizeHint() const {
     return {600, 300};
 }
 
+GraphCoordinates DistributionGraph::coordinates() const {
+    return model_.graphCoordinates().onScale(scale_, model_.MaxCount());
+}
+
+// A point whose height is already measured on the count scale.
+QPointF DistributionGraph::toPixel(double x, double height) const {
+    const GraphCoordinates c = coordinates();
+    return {c.xToPixel(x, width()), c.yToPixel(height, this->height())};
+}
+
 QPointF DistributionGraph::pointAt(double x, double y) const {
-    const GraphCoordinates& c = model_.graphCoordinates();
-    return {c.xToPixel(x, width()), c.yToPixel(y, height())};
+    return toPixel(x, scale_.toAxis(y));
 }
 
 double DistributionGraph::valueAt(double pixelX) const {
@@ -51,7 +65,29 @@ double DistributionGraph::valueAt(double pixelX) const {
 }
 
 double DistributionGraph::countAt(double pixelY) const {
-    return model_.graphCoordinates().pixelToY(pixelY, height());
+    return scale_.toCount(coordinates().pixelToY(pixelY, height()));
+}
+
+void DistributionGraph::setCountScale(CountScale scale) {
+    if (scale == scale_)
+        return;
+    scale_ = scale;
+    setToolTip({});
+    stale_ = true;
+    update();
+    emit countAxisChanged();
+}
+
+void DistributionGraph::setRampFill(bool on) {
+    if (on == rampFill_)
+        return;
+    rampFill_ = on;
+    stale_ = true;
+    update();
+}
+
+std::vector<double> DistributionGraph::countTicks() const {
+    return scale_.ticks(model_.MaxCount(), std::max(2, height() / 40));
 }
 
 MouseButton DistributionGraph::buttonOf(Qt::MouseButton button) {
@@ -68,6 +104,14 @@ MouseButton DistributionGraph::buttonOf(Qt::MouseButton button) {
 void DistributionGraph::graphPrepared() {
     stale_ = true;
     update();
+    emit countAxisChanged();
+}
+
+void DistributionGraph::colorBarPainted() {
+    if (!rampFill_)
+        return;
+    stale_ = true;
+    update();
 }
 
 void DistributionGraph::resizeEvent(QResizeEvent*) {
@@ -82,30 +126,60 @@ void DistributionGraph::render() {
     QPainter painter(&image_);
     painter.setRenderHint(QPainter::Antialiasing);
 
+    // The linear scale draws the model's own curve; the others measure the
+    // same rows anew.
+    const DistributionCurve scaled =
+        scale_.linear() ? DistributionCurve()
+                        : DistributionCurve(model_.distribution().shownRows(), scale_);
+    const DistributionCurve& curve = scale_.linear() ? model_.curve() : scaled;
+
     // The zero count line, so the curve's foot reads as a baseline.
     const double zero = pointAt(0, 0).y();
+    if (rampFill_)
+        fillWithRamp(painter, curve, zero);
     painter.setPen(QPen(kBaseline, 1));
     painter.drawLine(QPointF(0, zero), QPointF(width(), zero));
 
     drawValueScale(painter, zero);
 
-    const DistributionCurve& curve = model_.curve();
     std::vector<QLineF> lines;
     lines.reserve(curve.lines().size());
     for (const CurveSegment& s : curve.lines())
-        lines.emplace_back(pointAt(s.from.x, s.from.y), pointAt(s.to.x, s.to.y));
+        lines.emplace_back(toPixel(s.from.x, s.from.y), toPixel(s.to.x, s.to.y));
     painter.setPen(QPen(toQColor(DistributionCurve::kLineColor), DistributionCurve::kLineWidth));
     painter.drawLines(lines.data(), static_cast<int>(lines.size()));
 
     std::vector<QPointF> points;
     points.reserve(curve.points().size());
     for (const CurvePoint& p : curve.points())
-        points.push_back(pointAt(p.x, p.y));
+        points.push_back(toPixel(p.x, p.y));
     painter.setRenderHint(QPainter::Antialiasing, false);
     painter.setPen(QPen(toQColor(DistributionCurve::kPointColor), DistributionCurve::kPointWidth,
                         Qt::SolidLine, Qt::SquareCap));
     painter.drawPoints(points.data(), static_cast<int>(points.size()));
     stale_ = false;
+}
+
+// Each pixel column between the baseline and the curve takes the colour the
+// ramp gives the value at the column's centre, as the colour bar paints it.
+void DistributionGraph::fillWithRamp(QPainter& painter, const DistributionCurve& curve,
+                                     double zero) const {
+    const int w = width();
+    std::vector<std::uint32_t> line(static_cast<std::size_t>(std::max(w, 0)), 0u);
+    const GraphCoordinates& c = model_.graphCoordinates();
+    paintColumns(line, model_.colorBar().slices(), {[&](double x) { return c.xToPixel(x, w); }});
+    painter.save();
+    painter.setRenderHint(QPainter::Antialiasing, false);
+    for (int column = 0; column < w; ++column) {
+        const std::uint32_t pixel = line[static_cast<std::size_t>(column)];
+        const std::optional<double> height = curve.heightAt(valueAt(column + 0.5));
+        if (pixel == 0u || !height)
+            continue;
+        const double top = toPixel(0, *height).y();
+        painter.fillRect(QRectF(column, std::min(top, zero), 1, std::fabs(zero - top)),
+                         QColor::fromRgb(pixel));
+    }
+    painter.restore();
 }
 
 // Round values along the zero line, labelled in the space under it, so the
@@ -137,7 +211,10 @@ void DistributionGraph::mouseMoveEvent(QMouseEvent* event) {
     const double x = valueAt(event->position().x());
     const double y = countAt(event->position().y());
     emit pointerValue(QString::fromStdString(GraphReadout::xText(x)));
-    setToolTip(QString::fromStdString(GraphReadout::toolTip(x, y)));
+    const std::string tip =
+        scale_.linear() ? GraphReadout::toolTip(x, y)
+                        : GraphReadout::nearestCountToolTip(model_.distribution().shownRows(), x);
+    setToolTip(QString::fromStdString(tip));
     reportingErrors([&] { model_.moveOnGraph(static_cast<float>(x)); });
 }
 

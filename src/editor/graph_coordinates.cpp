@@ -24,6 +24,17 @@ GraphCoordinates GraphCoordinates::forDistribution(float dataMin, float dataMax,
     return c;
 }
 
+GraphCoordinates GraphCoordinates::onScale(CountScale scale, float maxCount) const {
+    if (scale.linear())
+        return *this;
+    const GraphCoordinates counts =
+        forDistribution(0.0f, 0.0f, static_cast<float>(scale.toAxis(maxCount)));
+    GraphCoordinates c = *this;
+    c.top = counts.top;
+    c.height = counts.height;
+    return c;
+}
+
 double GraphCoordinates::xToPixel(double x, double pixels) const {
     return toPixel(x, left, width, pixels);
 }

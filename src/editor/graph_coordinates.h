@@ -1,5 +1,7 @@
 #pragma once
 
+#include "editor/count_scale.h"
+
 namespace huebase {
 
 // The user coordinate system of the distribution graph: x in data units,
@@ -14,6 +16,11 @@ struct GraphCoordinates {
     // A margin of 2.5 % of the range on each side of the values; counts from
     // -0.2 * maxCount at the bottom edge to 1.1 * maxCount at the top.
     static GraphCoordinates forDistribution(float dataMin, float dataMax, float maxCount);
+
+    // The same value axis with heights measured on `scale`: the count axis
+    // spans what forDistribution gives for the scaled highest count. The
+    // linear scale returns these coordinates unchanged.
+    GraphCoordinates onScale(CountScale scale, float maxCount) const;
 
     // Conversions between user coordinates and a widget's pixels (0 at the
     // left or top edge, `pixels` across). A scale of zero extent maps

@@ -1,6 +1,9 @@
 #include "editor/graph_readout.h"
 
+#include "util/vb_format.h"
 #include "util/vb_numeric.h"
+
+#include <algorithm>
 
 #include <charconv>
 
@@ -18,6 +21,19 @@ std::string xText(double x) {
 
 std::string toolTip(double x, double y) {
     return "Val: " + xText(x) + " nbVal: " + xText(y);
+}
+
+std::string nearestCountToolTip(const std::vector<DistributionRow>& rows, double x) {
+    if (rows.empty())
+        return {};
+    auto above = std::ranges::partition_point(
+        rows, [x](const DistributionRow& row) { return row.value < x; });
+    if (above == rows.end() ||
+        (above != rows.begin() && x - std::prev(above)->value <= above->value - x))
+        above = std::prev(above);
+    char buffer[64];
+    const auto count = std::to_chars(buffer, buffer + sizeof buffer, above->count);
+    return "Value " + floatText(above->value) + ", count " + std::string(buffer, count.ptr);
 }
 
 } // namespace huebase::GraphReadout

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "editor/ramp_state.h"
+
 namespace huebase {
 
 // What the editor's widgets are told when the model changes. Every method
@@ -20,6 +22,9 @@ public:
     virtual void colorBarPainted() {}
     // The no-data colour changed.
     virtual void noDataColorChanged() {}
+    // A user edit called `name` changed the ramp from `before` to `after`.
+    virtual void rampEdited(const char* /*name*/, const RampState& /*before*/,
+                            const RampState& /*after*/) {}
 };
 
 } // namespace huebase

@@ -135,20 +135,24 @@ void LutEditorModel::setNoDataColor(ColorValue color) {
 }
 
 void LutEditorModel::setColor(int k, ColorValue color) {
-    rows_.setColor(k, color);
-    notifyRow(k);
-    if (!loading_) {
-        placeTabs();
-        PaintColorBar();
-    }
+    recorded("Set colour", [&] {
+        rows_.setColor(k, color);
+        notifyRow(k);
+        if (!loading_) {
+            placeTabs();
+            PaintColorBar();
+        }
+    });
 }
 
 void LutEditorModel::SetMode(int k, std::uint8_t method) {
     if (method >= kMethodCount)
         throw VbError(VbError::InvalidCall);
-    rows_.setMethod(k, method);
-    notifyRow(k);
-    PaintColorBar();
+    recorded("Set method", [&] {
+        rows_.setMethod(k, method);
+        notifyRow(k);
+        PaintColorBar();
+    });
 }
 
 std::optional<std::string> LutEditorModel::commitValueText(int k, std::string_view text,
@@ -165,12 +169,14 @@ std::optional<std::string> LutEditorModel::commitValueText(int k, std::string_vi
 }
 
 void LutEditorModel::offsetChanged(int k, float value) {
-    rows_.passOffset(k, value);
-    notifyRow(k - 1);
-    notifyRow(k);
-    notifyRow(k + 1);
-    placeTabs();
-    PaintColorBar();
+    recorded("Set value", [&] {
+        rows_.passOffset(k, value);
+        notifyRow(k - 1);
+        notifyRow(k);
+        notifyRow(k + 1);
+        placeTabs();
+        PaintColorBar();
+    });
 }
 
 // --- Colour bar ----------------------------------------------------------------
@@ -204,10 +210,12 @@ TabPointer LutEditorModel::pressOnTab(int k, MouseButton button, int shiftState)
     if (button != MouseButton::Right)
         return TabPointer::Arrow;
     if (shiftState == ShiftKey) {
+        finishDrag();
         if (endNode) {
             dragIndex_ = -1;
             return TabPointer::Unchanged;
         }
+        dragStart_ = rampState();
         dragIndex_ = static_cast<std::int16_t>(k);
         return TabPointer::SizeWestEast;
     }
@@ -234,9 +242,14 @@ bool LutEditorModel::moveOnGraph(float x) {
 }
 
 bool LutEditorModel::releaseOnGraph(float x, MouseButton button) {
+    finishDrag();
     dragIndex_ = -1;
     if (button == MouseButton::Right)
         return false;
+    return recorded("Add node", [&] { return insertNodeAt(x); });
+}
+
+bool LutEditorModel::insertNodeAt(float x) {
     int inserted = -1;
     {
         LoadingScope loading(loading_);
@@ -244,6 +257,7 @@ bool LutEditorModel::releaseOnGraph(float x, MouseButton button) {
     }
     if (inserted < 0)
         return false;
+    dragIndex_ = -1;
     notifyRowsReset();
     placeTabs();
     PaintColorBar();
@@ -251,6 +265,10 @@ bool LutEditorModel::releaseOnGraph(float x, MouseButton button) {
 }
 
 int LutEditorModel::Indiv() {
+    return recorded("Individual values", [&] { return addEachValue(); });
+}
+
+int LutEditorModel::addEachValue() {
     const int before = rows_.count();
     try {
         LoadingScope loading(loading_);
@@ -279,8 +297,9 @@ bool LutEditorModel::removeNode(int k) {
         return false;
     table.erase(table.begin() + k);
     // The rows are renumbered: a drag in progress would follow another node.
+    finishDrag();
     dragIndex_ = -1;
-    SetLutTable(table);
+    recorded("Delete node", [&] { SetLutTable(table); });
     return true;
 }
 
@@ -289,7 +308,7 @@ bool LutEditorModel::nudgeNode(int k, bool up, bool large) {
         return false;
     const float step = large ? std::fabs(DataMax() - DataMin()) / 100.0f : 1.0f;
     const float value = rows_[k].value;
-    return moveNodeTo(k, up ? value + step : value - step);
+    return recorded("Move node", [&] { return moveNodeTo(k, up ? value + step : value - step); });
 }
 
 // --- Window buttons -------------------------------------------------------------
@@ -302,12 +321,51 @@ void LutEditorModel::OK() {
 
 void LutEditorModel::Reset() {
     if (owner_ != nullptr)
-        owner_->resetLutTable();
+        recorded("Reset", [&] { owner_->resetLutTable(); });
 }
 
 void LutEditorModel::Cancel() {
     Reset();
     endProgram(0);
+}
+
+// --- Edit history ------------------------------------------------------------------
+
+void LutEditorModel::restoreRamp(const RampState& state) {
+    dragIndex_ = -1;
+    dragStart_.reset();
+    {
+        LoadingScope loading(loading_);
+        rows_ = state.rows;
+        notifyRowsReset();
+    }
+    placeTabs();
+    PaintColorBar();
+    setNoDataColor(state.noDataColor);
+}
+
+void LutEditorModel::finishDrag() {
+    if (!dragStart_)
+        return;
+    const RampState before = std::move(*dragStart_);
+    dragStart_.reset();
+    if (!recording_)
+        reportEdit("Move node", before);
+}
+
+void LutEditorModel::finishRecording(const char* name, const RampState& before) {
+    // Once only, even when telling a listener fails.
+    if (!recording_)
+        return;
+    recording_ = false;
+    reportEdit(name, before);
+}
+
+void LutEditorModel::reportEdit(const char* name, const RampState& before) {
+    const RampState after = rampState();
+    if (after == before)
+        return;
+    notify([&](LutEditorListener& l) { l.rampEdited(name, before, after); });
 }
 
 } // namespace huebase

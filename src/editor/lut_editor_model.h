@@ -7,12 +7,14 @@
 #include "editor/graph_coordinates.h"
 #include "editor/graph_input.h"
 #include "editor/node_rows.h"
+#include "editor/ramp_state.h"
 #include "util/vb_format.h"
 
 #include <cstdint>
 #include <optional>
 #include <string>
 #include <string_view>
+#include <type_traits>
 #include <vector>
 
 namespace huebase {
@@ -136,6 +138,12 @@ public:
     // release strictly between two nodes inserts a node at x. True when a
     // node was added.
     bool releaseOnGraph(float x, MouseButton button);
+    // A node at a typed value, under the rules of a node added on the graph:
+    // only strictly between two nodes, with the method of the interval it
+    // splits and the colour the ramp gives x. False (nothing changed) on a
+    // node or outside the first and last node. Ends any drag, since the rows
+    // are renumbered.
+    bool insertNodeAt(float x);
     // "Individual values": every distinct value of AltiArrays becomes a node
     // (values on a node or outside the nodes are skipped). Returns the number
     // added; error 6 after inserting what fits when the rows fill up.
@@ -155,12 +163,29 @@ public:
     // Cancel, or closing the window by its frame: reset, then end the program.
     void Cancel();
 
+    // --- Edit history ---------------------------------------------------------
+    // The rows and the no-data colour as they stand.
+    RampState rampState() const { return {rows_, noDataColor_}; }
+    // Puts a ramp back as it was: the rows, the buttons placed, the bar
+    // painted, the no-data colour. Like SetLutTable it sends nothing to the
+    // owner. Any drag ends; nothing is recorded.
+    void restoreRamp(const RampState& state);
+    // Runs `edit` as one user edit called `name`: when it changed the ramp,
+    // even part way before failing, the listeners are told the state before
+    // and after. The edits of the rows and the graph record themselves; an
+    // edit run inside another belongs to the outer one.
+    template <typename Edit> decltype(auto) recorded(const char* name, Edit&& edit);
+
 private:
     void takeDistribution(std::vector<DistributionRow> rows);
     void prepareGraphAndEnds();
     void drawCurve();
     void placeTabs();
     bool moveNodeTo(int k, float x);
+    int addEachValue();
+    void finishDrag();
+    void finishRecording(const char* name, const RampState& before);
+    void reportEdit(const char* name, const RampState& before);
     void notifyRowsReset();
     void notifyRow(int k);
     template <typename Call> void notify(Call call);
@@ -178,6 +203,30 @@ private:
     bool distributionSet_ = true;
     bool tabsPlaced_ = false;
     std::int16_t dragIndex_ = -1;
+    // The ramp when the current drag started: the whole drag is one edit.
+    std::optional<RampState> dragStart_;
+    bool recording_ = false;
 };
+
+template <typename Edit> decltype(auto) LutEditorModel::recorded(const char* name, Edit&& edit) {
+    if (recording_)
+        return edit();
+    const RampState before = rampState();
+    recording_ = true;
+    // The rows may have changed before a failure; that part is an edit too.
+    try {
+        if constexpr (std::is_void_v<decltype(edit())>) {
+            edit();
+            finishRecording(name, before);
+        } else {
+            decltype(auto) result = edit();
+            finishRecording(name, before);
+            return result;
+        }
+    } catch (...) {
+        finishRecording(name, before);
+        throw;
+    }
+}
 
 } // namespace huebase

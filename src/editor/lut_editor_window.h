@@ -3,6 +3,7 @@
 #include "core/lut_editor.h"
 #include "core/lut_node.h"
 #include "editor/distribution.h"
+#include "editor/graph_settings.h"
 #include "editor/lut_editor_listener.h"
 #include "editor/lut_editor_model.h"
 
@@ -10,8 +11,12 @@
 
 #include <cstdint>
 #include <memory>
+#include <optional>
 #include <vector>
 
+class QHBoxLayout;
+class QCheckBox;
+class QComboBox;
 class QLabel;
 class QLineEdit;
 class QPushButton;
@@ -21,6 +26,7 @@ namespace huebase {
 class ColorBarView;
 class ColorPicker;
 class DistributionGraph;
+class EditorUndo;
 class NodeTabStrip;
 class ValueRowsPanel;
 
@@ -60,10 +66,21 @@ public:
     float DataMax() const noexcept { return model_->DataMax(); }
     void showModal() override;
 
+    // The graph's count scale and ramp fill, as the controls beside it show.
+    GraphSettings graphSettings() const;
+    void setGraphSettings(const GraphSettings& settings);
+
 signals:
     // OpenBrowser and cmdSave, for the library to answer.
     void openBrowserRequested();
     void saveRequested();
+    // The user chose another count scale or turned the ramp fill on or off.
+    void graphSettingsChanged();
+    // The editor ends (OK, Cancel, Escape, closing) or is Reset with a ramp
+    // other than the one it was last shown with: the ramp it had, for the
+    // host to keep. Raised before the window hides or the program ends, at
+    // most once for the same ramp.
+    void rampToKeep(const huebase::LutTable& table, huebase::ColorValue noDataColor);
 
 public slots:
     // OK: sends the table, tells the owner it is final and hides the window.
@@ -72,18 +89,43 @@ public slots:
     // back, then the program ends.
     void reject() override;
 
+protected:
+    // Each showing (not a restore from the task bar) takes the ramp it
+    // starts with as the one a way out compares against.
+    void showEvent(QShowEvent* event) override;
+
 private:
+    // The nodes and the no-data colour together, as kept.
+    struct Ramp {
+        LutTable table;
+        ColorValue noDataColor = 0;
+        friend bool operator==(const Ramp&, const Ramp&) = default;
+    };
+
     void noDataColorChanged() override;
     void buildControls();
     void indivClicked();
+    void addUndoButtons(QHBoxLayout& row, QWidget* previous);
+    QLayout* buildGraphOptions();
+    Ramp currentRamp() const;
+    void keepRampIfChanged();
+    // "Insert node at value...": the value asked for, then inserted.
+    void insertTypedNode(const QString& suggested);
+    void offerInsertMenu(QWidget* source, QPoint pos, const QString& suggested);
 
     std::unique_ptr<LutEditorModel> model_;
+    // Listens to the model, so it goes before it.
+    std::unique_ptr<EditorUndo> undo_;
     DistributionGraph* Graph_ = nullptr;
     NodeTabStrip* GraphColorTab_ = nullptr;
     ColorBarView* ColorBar_ = nullptr;
     ValueRowsPanel* rows_ = nullptr;
     QLineEdit* Xtxt_ = nullptr;
     ColorPicker* NoDataColor_ = nullptr;
+    QComboBox* countScale_ = nullptr;
+    QCheckBox* rampFill_ = nullptr;
+    std::optional<Ramp> shownRamp_;
+    std::optional<Ramp> keptRamp_;
 };
 
 } // namespace huebase

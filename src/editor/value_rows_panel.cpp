@@ -85,6 +85,13 @@ ColorTableRow* ValueRowsPanel::rowWidget(int k) const {
     return nullptr;
 }
 
+int ValueRowsPanel::rowAt(QPoint pos) const {
+    for (QWidget* w = childAt(pos); w != nullptr && w != this; w = w->parentWidget())
+        if (const auto* row = qobject_cast<const ColorTableRow*>(w))
+            return indexOf(*row);
+    return -1;
+}
+
 ColorTableRow& ValueRowsPanel::showRow(int k) {
     model_.rows().checkIndex(k);
     const int h = ColorTableRow::rowHeight();
@@ -185,6 +192,7 @@ void ValueRowsPanel::bind(ColorTableRow& widget, int k) {
     const NodeRow& row = model_.row(k);
     binding_ = true;
     widget.setProperty(kIndex, k);
+    widget.setNumber(k + 1);
     // The lock first: a value box losing the focus as it is disabled then
     // finds the row locked and validates nothing.
     widget.SetLock(row.locked);

@@ -32,6 +32,8 @@ public:
     ColorTableRow& showRow(int k);
     // Opens the colour choice of row k (scrolled into view).
     void pickColor(int k);
+    // The model row shown under pos (panel coordinates), or -1.
+    int rowAt(QPoint pos) const;
 
     QScrollBar& scrollBar() const { return *VScroll1_; }
     // The first model row the viewport shows.

@@ -1,6 +1,7 @@
 #include "host/library_link.h"
 
 #include "browser/lut_library.h"
+#include "browser/recovered_ramps.h"
 #include "editor/lut_editor_window.h"
 #include "util/guarded.h"
 
@@ -12,8 +13,10 @@ void linkLibrary(LutEditorWindow& editor, const std::string& programFolder) {
                          LutLibrary::browse(&editor, programFolder, editor.DataMin(),
                                             editor.DataMax(),
                                             [&editor](const LutTable& table, ColorValue noData) {
-                                                editor.SetLutTable(table);
-                                                editor.setNoDataColor(noData);
+                                                editor.model().recorded("Library ramp", [&] {
+                                                    editor.SetLutTable(table);
+                                                    editor.setNoDataColor(noData);
+                                                });
                                             });
                      }));
     QObject::connect(&editor, &LutEditorWindow::saveRequested, &editor,
@@ -21,6 +24,11 @@ void linkLibrary(LutEditorWindow& editor, const std::string& programFolder) {
                          LutLibrary::saveAs(&editor, programFolder, editor.model().lutTable(),
                                             editor.noDataColor());
                      }));
+    QObject::connect(
+        &editor, &LutEditorWindow::rampToKeep, &editor,
+        guarded(&editor, [programFolder](const LutTable& table, ColorValue noData) {
+            RecoveredRamps(LutLibrary::folderOf(programFolder) + "/Recovered").keep(table, noData);
+        }));
 }
 
 } // namespace huebase

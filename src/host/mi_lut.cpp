@@ -5,6 +5,7 @@
 #include "color/color_picker.h"
 #include "core/lut_ctl.h"
 #include "editor/lut_editor_window.h"
+#include "host/graph_settings_link.h"
 #include "host/library_link.h"
 #include "util/messages.h"
 #include "util/program_exit.h"
@@ -26,6 +27,7 @@ MILut::MILut(std::string programFolder, HostNotifier& notifier, QWidget* parent)
         [this] {
             auto editor = std::make_unique<LutEditorWindow>();
             linkLibrary(*editor, folder_);
+            linkGraphSettings(*editor, folder_);
             return editor;
         },
         this);

@@ -6,6 +6,7 @@
 #include "util/vb_format.h"
 
 #include "browser/lut_test_support.h"
+#include "support/accessible_names.h"
 #include "support/service_recorder.h"
 
 #include <QComboBox>
@@ -14,6 +15,7 @@
 #include <QLineEdit>
 #include <QListWidget>
 #include <QMouseEvent>
+#include <QPushButton>
 #include <QRadioButton>
 #include <QScrollBar>
 #include <QTest>
@@ -199,6 +201,24 @@ TEST_F(BrowserTest, ClickedFilesComeFirstAndEveryRowFollowsTheMode) {
     }
     QTest::mouseClick(&option(1), Qt::LeftButton);
     EXPECT_EQ(browser.rows()[1]->max(), "100");
+}
+
+TEST_F(BrowserTest, EveryControlIsNamedOnceAndEveryRowsControlsByItsFile) {
+    for (const char* name : {"Terrain.lut", "Sea.lut", "Ice.lut", "Desert.lut"})
+        addFile(name, tableAt({0, 1}));
+    addFile("more/inner.lut", tableAt({0, 1}));
+    open();
+    browser.show();
+    ASSERT_TRUE(QTest::qWaitForWindowExposed(&browser));
+    const std::vector<std::string> none;
+    EXPECT_EQ(testing::accessibleNameFaults(browser), none);
+    clickFile("Sea.lut");
+    EXPECT_EQ(testing::accessibleNameFaults(browser), none) << "after choosing a file";
+    const ColorBarRow& first = *browser.rows().front();
+    EXPECT_EQ(first.findChild<QPushButton*>("SelectBtn")->accessibleName().toStdString(),
+              "Select Sea.lut");
+    EXPECT_EQ(first.findChild<QLineEdit*>("MaxVal")->accessibleName().toStdString(),
+              "Sea.lut upper bound");
 }
 
 TEST_F(BrowserTest, ChangingFolderOrDriveShowsThatFoldersFiles) {

@@ -20,17 +20,21 @@ ColorValue rgb(int r, int g, int b) {
     return composeColor(r, g, b);
 }
 
-// Opens the swatch's dialog by a click or from code, notes the dialog and
-// the red and blue it shows, sets one box and closes it with the button.
+// Opens the swatch's dialog by a click or from code, notes the dialog, the
+// red and blue it shows and the box that has the focus, sets one box (leaving
+// the focus there) and closes it with the button.
 struct Opening {
     QPointer<frmColorRef> dialog;
     QString shown;
+    std::string focused;
 };
 Opening open(ColorPicker& picker, bool byMouse, const char* box, const char* button) {
     Opening seen;
     whenModalOpens<frmColorRef>([&](frmColorRef& dialog) {
         DialogControls ui(dialog);
-        seen = {&dialog, ui.edit("txtR").text() + "," + ui.edit("txtB").text()};
+        seen = {&dialog, ui.edit("txtR").text() + "," + ui.edit("txtB").text(),
+                dialog.focusWidget() ? dialog.focusWidget()->objectName().toStdString() : ""};
+        ui.edit(box).setFocus();
         ui.edit(box).setText("200");
         QTest::mouseClick(&ui.find<QPushButton>(button), Qt::LeftButton);
     });
@@ -53,6 +57,7 @@ TEST(Swatch, RaisesChangedOnEverySetAndOnOkOnly) {
     changes.clear();
     const Opening cancelled = open(*picker, true, "txtG", "Cancel");
     EXPECT_EQ(cancelled.shown, "10,30"); // opened on the swatch's colour
+    EXPECT_EQ(cancelled.focused, "txtR");
     EXPECT_EQ(picker->color(), rgb(10, 20, 30));
     EXPECT_TRUE(changes.empty());
 
@@ -61,6 +66,8 @@ TEST(Swatch, RaisesChangedOnEverySetAndOnOkOnly) {
     const Opening accepted = open(*picker, false, "txtR", "OK");
     EXPECT_EQ(accepted.dialog, cancelled.dialog); // one dialog, reloaded on each opening
     EXPECT_EQ(accepted.shown, "10,250");
+    EXPECT_EQ(accepted.focused, "txtR")
+        << "the first box again, not where the last opening left it";
     EXPECT_EQ(picker->color(), rgb(200, 20, 250));
     EXPECT_EQ(changes, std::vector<ColorValue>{rgb(200, 20, 250)});
 

@@ -3,6 +3,7 @@
 
 #include "dialog_test_support.h"
 #include "fake_screen.h"
+#include "support/accessible_names.h"
 #include "support/service_recorder.h"
 
 #include <QPushButton>
@@ -90,6 +91,11 @@ TEST_F(ColorDialogTest, ShowsTheColourInEveryBoxSliderAndBackground) {
     bar('L').setValue(0);
     EXPECT_EQ(box('L').text(), "240");
     EXPECT_EQ(dialog.color(), 0xFFFFFF);
+}
+
+TEST_F(ColorDialogTest, EveryControlHasANameOfItsOwn) {
+    open(rgb(255, 128, 0));
+    EXPECT_EQ(testing::accessibleNameFaults(dialog), std::vector<std::string>{});
 }
 
 // Typed text reaches the model, and the boxes, sliders and selection show its answer.

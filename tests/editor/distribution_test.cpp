@@ -1,4 +1,5 @@
 #include "editor/axis_ticks.h"
+#include "editor/count_scale.h"
 #include "editor/distribution.h"
 #include "editor/distribution_counting.h"
 #include "editor/editor_fakes.h"
@@ -187,6 +188,115 @@ TEST(AxisTicks, AreRoundStepsInsideTheRange) {
     EXPECT_TRUE(std::ranges::is_sorted(far) && std::ranges::adjacent_find(far) == far.end());
     EXPECT_TRUE(axisTicks(5, 5, 6).empty());
     EXPECT_TRUE(axisTicks(0, 10, 0).empty());
+}
+
+using Kind = CountScale::Kind;
+
+TEST(CountScale, MapsCountsUpAndBackKeepingZeroOnTheBaseline) {
+    const struct {
+        Kind kind;
+        double count;
+        double height;
+    } rows[] = {
+        {Kind::Linear, 0, 0},
+        {Kind::Linear, 250, 250},
+        {Kind::Linear, -30, -30},
+        {Kind::SquareRoot, 0, 0},
+        {Kind::SquareRoot, 1, 1},
+        {Kind::SquareRoot, 2500, 50},
+        {Kind::SquareRoot, -4, -2},
+        {Kind::Logarithmic, 0, 0},
+        {Kind::Logarithmic, 1, std::log10(2.0)},
+        {Kind::Logarithmic, 99, 2},
+        {Kind::Logarithmic, 999999, 6},
+        {Kind::Logarithmic, -9, -1},
+    };
+    for (const auto& [kind, count, height] : rows) {
+        const CountScale scale(kind);
+        EXPECT_NEAR(scale.toAxis(count), height, 1e-12) << scale.key() << " " << count;
+        EXPECT_NEAR(scale.toCount(height), count, 1e-9) << scale.key() << " " << count;
+    }
+    const std::pair<Kind, const char*> names[] = {{Kind::Linear, "Linear"},
+                                                  {Kind::SquareRoot, "Square root"},
+                                                  {Kind::Logarithmic, "Logarithmic"}};
+    for (const auto& [kind, label] : names) {
+        EXPECT_EQ(CountScale(kind).label(), label);
+        EXPECT_EQ(CountScale::fromKey(CountScale(kind).key()), CountScale(kind));
+    }
+    for (const char* bad : {"", "LOG", "logarithmic", " sqrt"})
+        EXPECT_FALSE(CountScale::fromKey(bad)) << bad;
+}
+
+TEST(CountScale, TicksAreWholeCountsSpreadEvenlyUpEachScale) {
+    const struct {
+        Kind kind;
+        double maxCount;
+        int wanted;
+        std::vector<double> ticks;
+    } rows[] = {
+        {Kind::Linear, 2000, 5, {0, 500, 1000, 1500, 2000}},
+        {Kind::Linear, 1, 5, {0, 1}},
+        {Kind::SquareRoot, 10000, 5, {0, 400, 1600, 3600, 6400, 10000}},
+        {Kind::SquareRoot, 4, 4, {0, 1, 4}},
+        {Kind::Logarithmic, 1900, 10, {0, 1, 10, 100, 1000}},
+        {Kind::Logarithmic, 50, 10, {0, 1, 2, 5, 10, 20, 50}},
+        {Kind::Logarithmic, 1e7, 4, {0, 1, 1e5}},
+        {Kind::Logarithmic, 0.5, 5, {0}},
+    };
+    for (const auto& [kind, maxCount, wanted, ticks] : rows)
+        EXPECT_EQ(CountScale(kind).ticks(maxCount, wanted), ticks)
+            << CountScale(kind).key() << " " << maxCount;
+
+    for (const Kind kind : CountScale::kKinds) {
+        for (const double maxCount : {3.0, 77.0, 123456.0, 9.87e8}) {
+            const std::vector<double> ticks = CountScale(kind).ticks(maxCount, 8);
+            ASSERT_FALSE(ticks.empty());
+            EXPECT_TRUE(std::ranges::is_sorted(ticks) &&
+                        std::ranges::adjacent_find(ticks) == ticks.end());
+            EXPECT_EQ(ticks.front(), 0.0);
+            EXPECT_LE(ticks.back(), maxCount);
+            EXPECT_LE(ticks.size(), 10u);
+            EXPECT_TRUE(std::ranges::all_of(ticks, [](double t) { return std::floor(t) == t; }));
+        }
+    }
+}
+
+TEST(CountScale, LabelsShortenLargeCounts) {
+    const std::pair<double, const char*> rows[] = {
+        {0, "0"},         {-0.3, "0"},        {9500, "9500"}, {16000, "16k"},
+        {250000, "250k"}, {1440000, "1.44M"}, {2e9, "2G"}};
+    for (const auto& [count, text] : rows)
+        EXPECT_EQ(countLabel(count), text) << count;
+}
+
+TEST(GraphReadout, NearestCountNamesTheClosestDistributionValueAndItsRealCount) {
+    const std::vector<DistributionRow> rows{{-5, 3}, {10.5f, 4012}, {20, 2.5}};
+    const std::pair<double, const char*> cases[] = {
+        {12, "Value 10.5, count 4012"}, {15.25, "Value 10.5, count 4012"},
+        {15.3, "Value 20, count 2.5"},  {-100, "Value -5, count 3"},
+        {1e9, "Value 20, count 2.5"},   {2.7, "Value -5, count 3"}};
+    for (const auto& [x, text] : cases)
+        EXPECT_EQ(GraphReadout::nearestCountToolTip(rows, x), text) << x;
+    EXPECT_EQ(GraphReadout::nearestCountToolTip({}, 3), "");
+}
+
+TEST(DistributionCurve, ScaledHeightsAndTheLineBetweenThem) {
+    const DistributionCurve curve({{0, 0}, {10, 99}, {20, 9}}, CountScale(Kind::Logarithmic));
+    EXPECT_EQ(curve.points(), (std::vector<CurvePoint>{{0, 0}, {10, 2}}));
+    const std::pair<double, std::optional<double>> heights[] = {
+        {0, 0.0},  {5, 1.0},           {10, 2.0},         {15, 1.5},
+        {20, 1.0}, {-1, std::nullopt}, {21, std::nullopt}};
+    for (const auto& [x, height] : heights)
+        EXPECT_EQ(curve.heightAt(x), height) << x;
+    EXPECT_EQ(DistributionCurve({{5, 7}}).heightAt(5), std::nullopt) << "one row draws no line";
+
+    const GraphCoordinates c = GraphCoordinates::forDistribution(-100, 300, 999);
+    EXPECT_EQ(c.onScale(CountScale(), 999), c);
+    const GraphCoordinates log = c.onScale(CountScale(Kind::Logarithmic), 999);
+    EXPECT_EQ(log.left, c.left);
+    EXPECT_EQ(log.width, c.width);
+    EXPECT_FLOAT_EQ(log.top, 3.3f);
+    EXPECT_FLOAT_EQ(log.height, -3.9f);
 }
 
 } // namespace

@@ -9,17 +9,29 @@
 #include "editor/lut_editor_window.h"
 #include "editor/node_tab_strip.h"
 #include "editor/value_rows_panel.h"
+#include "support/accessible_names.h"
+
+#include "support/service_recorder.h"
 
 #include <QApplication>
+#include <QCheckBox>
+#include <QComboBox>
+#include <QContextMenuEvent>
+#include <QInputDialog>
 #include <QLabel>
 #include <QLineEdit>
+#include <QMenu>
 #include <QMouseEvent>
 #include <QPushButton>
+#include <QRegularExpression>
 #include <QScrollBar>
+#include <QSignalSpy>
 #include <QTest>
+#include <QTimer>
 
 #include <gtest/gtest.h>
 
+#include <functional>
 #include <stdexcept>
 #include <string>
 
@@ -211,6 +223,58 @@ TEST(LutEditorWindow, IndividualValuesMakesEveryDistinctValueANode) {
     EXPECT_EQ(e.model().rowCount(), 5) << "values on nodes are skipped";
 }
 
+// What an assistive client finds wrong in the editor: a missing or shared
+// name, or a row control whose node number does not match what it shows.
+std::vector<std::string> accessibilityFaults(ShownEditor& e) {
+    std::vector<std::string> faults = testing::accessibleNameFaults(e.window);
+    const QRegularExpression rowName("^Node (\\d+) (value|method)$");
+    for (const testing::AccessibleControl& control : testing::operatedControls(e.window)) {
+        const QRegularExpressionMatch match = rowName.match(control.name);
+        if (!match.hasMatch())
+            continue;
+        const int k = match.captured(1).toInt() - 1;
+        const QString shown = k < 0 || k >= e.model().rowCount() ? "no such node"
+                              : match.captured(2) == "value"
+                                  ? QString::fromStdString(e.model().valueText(k))
+                                  : QString(methodName(e.model().row(k).method));
+        if (control.value != shown)
+            faults.push_back(control.name.toStdString() + " shows '" + control.value.toStdString() +
+                             "', not '" + shown.toStdString() + "'");
+    }
+    return faults;
+}
+
+TEST(LutEditorWindow, EveryControlIsNamedOnceAndRowsByTheNodeTheyShowAsTheyChange) {
+    ShownEditor e;
+    e.window.DefaultLUT(); // 0 .. 200
+    e.window.SetLutTable(rampTable(5, 40));
+    const auto names = [&] {
+        QStringList all;
+        for (const testing::AccessibleControl& control : testing::operatedControls(e.window))
+            all << control.name;
+        return all;
+    };
+    const std::vector<std::string> none;
+    EXPECT_EQ(accessibilityFaults(e), none);
+    EXPECT_TRUE(names().contains("Node 5 colour"));
+
+    QTest::mouseRelease(&e.graph(), Qt::LeftButton, Qt::NoModifier, e.graphPoint(60, 10));
+    ASSERT_EQ(e.model().rowCount(), 6);
+    EXPECT_EQ(accessibilityFaults(e), none) << "after adding";
+    EXPECT_TRUE(names().contains("Node 6 value"));
+
+    e.model().removeNode(1);
+    EXPECT_EQ(accessibilityFaults(e), none) << "after removing";
+    EXPECT_FALSE(names().contains("Node 6 value"));
+
+    e.window.SetLutTable(rampTable(60, 3));
+    auto& scroll = e.find<QScrollBar>("VScroll1");
+    scroll.setValue(scroll.maximum());
+    EXPECT_EQ(accessibilityFaults(e), none) << "after scrolling";
+    EXPECT_TRUE(names().contains("Node 60 method"));
+    EXPECT_FALSE(names().contains("Node 1 method"));
+}
+
 struct GraphEditing : ::testing::Test {
     void SetUp() override {
         e.window.DefaultLUT(); // 0 .. 200
@@ -333,6 +397,226 @@ TEST_F(GraphEditing, KeyboardMovesAndDeletesTheCurrentNode) {
     QTest::keyClick(&tabs, Qt::Key_Delete);
     EXPECT_EQ(e.values(), (std::vector<float>{0, 49, 200}));
 }
+
+struct UndoRedo : GraphEditing {
+    QPushButton& undo() { return e.find<QPushButton>("Undo"); }
+    QPushButton& redo() { return e.find<QPushButton>("Redo"); }
+    // The ramp the controls show: row values, tab tooltips and no-data swatch.
+    std::vector<QString> shown() {
+        std::vector<QString> result;
+        for (int k = 0; k < e.model().rowCount(); ++k)
+            result.push_back(QString::number(e.panel().showRow(k).GetValue()) + " " +
+                             e.tabs().tabToolTip(k));
+        result.push_back(QString::number(e.find<ColorPicker>("NoDataColor").color()));
+        return result;
+    }
+};
+
+TEST_F(UndoRedo, EveryKindOfChangeIsOneStepTheButtonsUndoAndRedo) {
+    const struct {
+        const char* name;
+        std::function<void(ShownEditor&)> change;
+    } cases[] = {
+        {"Add node", [this](ShownEditor&) { release(85); }},
+        {"Delete node",
+         [](ShownEditor& e) {
+             QTest::mouseClick(&e.tabs(), Qt::RightButton, Qt::ControlModifier, e.tabCentre(1));
+         }},
+        {"Move node",
+         [this](ShownEditor& e) {
+             QTest::mouseClick(&e.tabs(), Qt::RightButton, Qt::ShiftModifier, e.tabCentre(1));
+             for (double x : {70, 90, 110})
+                 ShownEditor::moveTo(e.graph(), e.graphPoint(x, 10));
+             release(110, Qt::RightButton);
+         }},
+        {"Move node",
+         [](ShownEditor& e) {
+             e.tabs().setFocus();
+             e.tabs().setCurrentTab(1);
+             QTest::keyClick(&e.tabs(), Qt::Key_Left);
+         }},
+        {"Set value", [](ShownEditor& e) { e.type(e.panel().showRow(1), "60"); }},
+        {"Set method", [](ShownEditor& e) { e.panel().showRow(1).SetMode(MethodNone); }},
+        {"Set colour",
+         [](ShownEditor& e) {
+             e.panel().showRow(1).findChild<ColorPicker*>("ColorPicker1")->setColor(0x00FFFF);
+         }},
+        {"Set no-data colour",
+         [](ShownEditor& e) { e.find<ColorPicker>("NoDataColor").setColor(0x00FF00); }},
+        {"Individual values",
+         [](ShownEditor& e) { QTest::mouseClick(&e.find<QPushButton>("Indiv"), Qt::LeftButton); }},
+        {"Reset",
+         [](ShownEditor& e) {
+             QTest::mouseClick(&e.find<QPushButton>("Command1"), Qt::LeftButton);
+         }},
+    };
+    EXPECT_FALSE(undo().isEnabled());
+    EXPECT_FALSE(redo().isEnabled());
+    for (const auto& c : cases) {
+        const RampState before = e.model().rampState();
+        const std::vector<QString> shownBefore = shown();
+        c.change(e);
+        const RampState after = e.model().rampState();
+        const std::vector<QString> shownAfter = shown();
+        ASSERT_NE(after, before) << c.name;
+        EXPECT_EQ(undo().toolTip(), QString("Undo ") + c.name);
+        EXPECT_TRUE(undo().isEnabled());
+        EXPECT_FALSE(redo().isEnabled());
+
+        QTest::mouseClick(&undo(), Qt::LeftButton);
+        EXPECT_EQ(e.model().rampState(), before) << c.name;
+        EXPECT_EQ(e.model().lutTable(), before.rows.toTable()) << c.name;
+        EXPECT_EQ(shown(), shownBefore) << c.name;
+        EXPECT_EQ(redo().toolTip(), QString("Redo ") + c.name);
+        ASSERT_TRUE(redo().isEnabled());
+
+        QTest::mouseClick(&redo(), Qt::LeftButton);
+        EXPECT_EQ(e.model().rampState(), after) << c.name;
+        EXPECT_EQ(shown(), shownAfter) << c.name;
+        EXPECT_FALSE(redo().isEnabled());
+    }
+    EXPECT_EQ(e.owner.received.size(), 1u) << "undo and redo send no table, as SetLutTable";
+}
+
+TEST_F(UndoRedo, KeysUndoTheRampExceptTheTextBeingTypedAndAThousandStepsGoBack) {
+    QLineEdit& box = *e.panel().showRow(1).findChild<QLineEdit*>("txtValue");
+    e.type(e.panel().showRow(1), "60");
+    box.setFocus();
+    QTest::keyClicks(&box, "7");
+    QTest::keyClick(&box, Qt::Key_Z, Qt::ControlModifier);
+    EXPECT_EQ(box.text(), "60") << "the box undoes its own typing first";
+    EXPECT_EQ(e.model().row(1).value, 60.0f);
+    QTest::keyClick(&box, Qt::Key_Z, Qt::ControlModifier);
+    EXPECT_EQ(e.model().row(1).value, 50.0f) << "then the ramp";
+    EXPECT_EQ(box.text(), "50");
+    QTest::keyClick(&box, Qt::Key_Y, Qt::ControlModifier);
+    EXPECT_EQ(e.model().row(1).value, 60.0f);
+    QTest::keyClick(&box, Qt::Key_Z, Qt::ControlModifier);
+    QTest::keyClick(&box, Qt::Key_Z, Qt::ControlModifier | Qt::ShiftModifier);
+    EXPECT_EQ(e.model().row(1).value, 60.0f);
+
+    const RampState start = e.model().rampState();
+    for (int k = 1; k <= 1000; ++k)
+        e.model().setColor(2, k);
+    for (int k = 0; k < 1000; ++k)
+        QTest::keyClick(&e.tabs(), Qt::Key_Z, Qt::ControlModifier);
+    EXPECT_EQ(e.model().rampState(), start);
+    QTest::keyClick(&e.tabs(), Qt::Key_Z, Qt::ControlModifier);
+    EXPECT_EQ(e.model().row(1).value, 60.0f) << "steps beyond a thousand are let go";
+}
+
+TEST(LutEditorWindow, CountScaleAndRampFillRedrawTheGraphAndAreReported) {
+    ShownEditor e;
+    e.model().InitFromOrderedArray({{0, 1}, {100, 9999}, {200, 99}});
+    const ColorValue green = composeColor(200, 255, 0);
+    e.window.SetLutTable({node(0, MethodLin, green), node(200, MethodLin, green, 200)});
+    QSignalSpy changed(&e.window, &LutEditorWindow::graphSettingsChanged);
+    const auto colourAt = [&](double x, double count) {
+        return e.graph().grab().toImage().pixelColor(e.graphPoint(x, count));
+    };
+    // Half way to the spike the line stands near count 5000 when linear and
+    // near count 140 on the logarithmic scale, where 99 is half way up to 9999.
+    EXPECT_NE(colourAt(50, 20), QColor(200, 255, 0)) << "no fill by default";
+
+    auto& scale = e.find<QComboBox>("CountScale");
+    scale.setFocus();
+    QTest::keyClick(&scale, Qt::Key_End);
+    EXPECT_EQ(changed.count(), 1);
+    EXPECT_EQ(e.window.graphSettings(), (GraphSettings{CountScale(CountScale::Kind::Logarithmic)}));
+    EXPECT_NEAR(e.graphPoint(50, 99).y(),
+                e.graphPoint(50, 9999).y() / 2 + e.graphPoint(50, 0).y() / 2, 1);
+
+    QTest::mouseClick(&e.find<QCheckBox>("RampFill"), Qt::LeftButton);
+    EXPECT_EQ(changed.count(), 2);
+    EXPECT_TRUE(e.window.graphSettings().rampFill);
+    EXPECT_EQ(colourAt(50, 20), QColor(200, 255, 0)) << "under the line";
+    EXPECT_NE(colourAt(50, 300), QColor(200, 255, 0)) << "above the line";
+    EXPECT_NE(colourAt(-4, 0.5), QColor(200, 255, 0)) << "outside the ramp";
+
+    ShownEditor::moveTo(e.graph(), e.graphPoint(80, 5));
+    EXPECT_EQ(e.graph().toolTip().toStdString(), "Value 100, count 9999");
+
+    e.window.setGraphSettings({});
+    EXPECT_EQ(e.find<QComboBox>("CountScale").currentText(), "Linear");
+    EXPECT_NE(colourAt(50, 20), QColor(200, 255, 0));
+    EXPECT_EQ(changed.count(), 2) << "only the user's changes are reported";
+    TEST_F(GraphEditing, InsertAsksForAValueAndRefusesWhereNoNodeCanGo) {
+        testing::ServiceRecorder services;
+        const float x = 85.5f;
+        const ColorValue rampColor = e.model().rows().rampColorAt(1, x);
+        const std::vector<float> added{0, 50, x, 120, 200};
+        const struct {
+            const char* typed;
+            bool accept;
+            std::vector<float> values;
+            const char* message; // the start of it; empty: none
+        } cases[] = {
+            {"", false, start, ""},
+            {"abc", true, start, "\"abc\" is not a number"},
+            {"120", true, start, "There is already a node at 120"},
+            {"-5", true, start, "-5 lies outside the nodes (0 to 200)"},
+            {" 85.5 ", true, added, ""},
+        };
+        for (const auto& c : cases) {
+            SCOPED_TRACE(c.typed);
+            const std::size_t messages = services.messages().size();
+            QString label;
+            testing::whenModalOpens<QInputDialog>([&](QInputDialog& dialog) {
+                label = dialog.labelText();
+                dialog.setTextValue(c.typed);
+                c.accept ? dialog.accept() : dialog.reject();
+            });
+            e.window.activateWindow(); // back from the input, as a window manager does
+            ASSERT_TRUE(QTest::qWaitForWindowActive(&e.window));
+            e.tabs().setFocus();
+            QTest::keyClick(&e.tabs(), Qt::Key_Insert);
+            EXPECT_EQ(label, "Value of the new node, between 0 and 200:");
+            EXPECT_EQ(e.values(), c.values);
+            const std::string message = c.message;
+            if (message.empty()) {
+                EXPECT_EQ(services.messages().size(), messages);
+            } else {
+                ASSERT_EQ(services.messages().size(), messages + 1);
+                EXPECT_EQ(services.messages().back().text.rfind(message, 0), 0u)
+                    << services.messages().back().text;
+            }
+        }
+        EXPECT_EQ(e.model().row(2).color, rampColor);
+        EXPECT_EQ(e.model().row(2).method, MethodLin);
+        EXPECT_EQ(e.panel().rowWidget(2)->GetValue(), x);
+    }
+
+    TEST_F(GraphEditing, TheGraphsAndTheRowsContextMenusAskWithASuggestedValue) {
+        const QPoint onGraph = e.graphPoint(85, 10);
+        const struct {
+            QWidget* widget;
+            QPoint pos;
+            std::string suggested;
+        } places[] = {
+            {&e.graph(), onGraph, GraphReadout::xText(e.graph().valueAt(onGraph.x()))},
+            {e.panel().rowWidget(1)->findChild<QComboBox*>("cmbMethod"), {4, 4}, "85"},
+            {e.panel().rowWidget(3)->findChild<ColorPicker*>("ColorPicker1"), {4, 4}, "160"},
+        };
+        for (const auto& place : places) {
+            SCOPED_TRACE(place.suggested);
+            QTimer::singleShot(50, [] {
+                auto* menu = qobject_cast<QMenu*>(QApplication::activePopupWidget());
+                ASSERT_NE(menu, nullptr) << "no menu";
+                menu->setActiveAction(menu->actions().front());
+                QTest::keyClick(menu, Qt::Key_Return);
+            });
+            QString suggested;
+            testing::whenModalOpens<QInputDialog>([&](QInputDialog& dialog) {
+                suggested = dialog.textValue();
+                dialog.reject();
+            });
+            QContextMenuEvent event(QContextMenuEvent::Mouse, place.pos,
+                                    place.widget->mapToGlobal(place.pos));
+            QApplication::sendEvent(place.widget, &event);
+            EXPECT_EQ(suggested.toStdString(), place.suggested);
+        }
+        EXPECT_EQ(e.values(), start);
+    }
 
 } // namespace
 } // namespace huebase

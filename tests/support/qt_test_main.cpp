@@ -1,6 +1,7 @@
 // Runs GoogleTest inside the program's own application object, so events
 // are delivered as the program delivers them. Widget tests use the offscreen
 // platform unless the test binary needs a real X server.
+#include "util/choice_list_accessible.h"
 #include "util/guarded_application.h"
 
 #include <QApplication>
@@ -18,5 +19,6 @@ int main(int argc, char** argv) {
         qputenv("QT_QPA_PLATFORM", "offscreen");
 #endif
     huebase::GuardedApplication app(argc, argv);
+    huebase::ChoiceListAccessible::install();
     return RUN_ALL_TESTS();
 }
