@@ -153,40 +153,42 @@ TEST_F(EditorModelTest, EditsAreNamedStepsThatRestoringTakesBackExactly) {
     EXPECT_THROW(editor.Indiv(), VbError);
     EXPECT_EQ(log.names, Names{"Individual values"});
     editor.removeListener(&log);
-    TEST_F(EditorModelTest, ANodeAtATypedValueSplitsItsIntervalWithTheRampsColourAndMethod) {
-        const LutTable start = editor.lutTable();
-        ClutTable ramp;
-        ramp.setTable(start, 0);
-        const struct {
-            float x;
-            int row; // of the new node; -1: nothing inserted
-        } cases[] = {{20, 2},  {4.5f, 1}, {39.75f, 3}, {10, -1},           {0, -1},
-                     {40, -1}, {-1, -1},  {41, -1},    {std::nanf(""), -1}};
-        for (const auto& c : cases) {
-            SCOPED_TRACE(c.x);
-            editor.SetLutTable(start);
-            editor.moveOnGraph(0); // no drag: nothing moves
-            const LutTable before = editor.rows().toTable();
-            const int bars = listener.bars;
-            EXPECT_EQ(editor.insertNodeAt(c.x), c.row >= 0);
-            if (c.row < 0) {
-                EXPECT_EQ(editor.rows().toTable(), before);
-                EXPECT_EQ(listener.bars, bars);
-                continue;
-            }
-            ASSERT_EQ(editor.rowCount(), 5);
-            const NodeRow& added = editor.row(c.row);
-            EXPECT_EQ(added.value, c.x);
-            EXPECT_EQ(added.method, start[c.row - 1].method);
-            EXPECT_EQ(added.color, ramp.ClutInterpolate(c.x));
-            EXPECT_FALSE(added.locked);
-            EXPECT_EQ(added.lower, start[c.row - 1].value);
-            EXPECT_EQ(added.upper, start[c.row].value);
-            EXPECT_EQ(editor.row(c.row - 1).upper, c.x);
-            EXPECT_EQ(editor.row(c.row + 1).lower, c.x);
-            EXPECT_EQ(editor.lutTable()[c.row].value, c.x) << "the bar is painted";
+}
+
+TEST_F(EditorModelTest, ANodeAtATypedValueSplitsItsIntervalWithTheRampsColourAndMethod) {
+    const LutTable start = editor.lutTable();
+    ClutTable ramp;
+    ramp.setTable(start, 0);
+    const struct {
+        float x;
+        int row; // of the new node; -1: nothing inserted
+    } cases[] = {{20, 2},  {4.5f, 1}, {39.75f, 3}, {10, -1},           {0, -1},
+                 {40, -1}, {-1, -1},  {41, -1},    {std::nanf(""), -1}};
+    for (const auto& c : cases) {
+        SCOPED_TRACE(c.x);
+        editor.SetLutTable(start);
+        editor.moveOnGraph(0); // no drag: nothing moves
+        const LutTable before = editor.rows().toTable();
+        const int bars = listener.bars;
+        EXPECT_EQ(editor.insertNodeAt(c.x), c.row >= 0);
+        if (c.row < 0) {
+            EXPECT_EQ(editor.rows().toTable(), before);
+            EXPECT_EQ(listener.bars, bars);
+            continue;
         }
+        ASSERT_EQ(editor.rowCount(), 5);
+        const NodeRow& added = editor.row(c.row);
+        EXPECT_EQ(added.value, c.x);
+        EXPECT_EQ(added.method, start[c.row - 1].method);
+        EXPECT_EQ(added.color, ramp.ClutInterpolate(c.x));
+        EXPECT_FALSE(added.locked);
+        EXPECT_EQ(added.lower, start[c.row - 1].value);
+        EXPECT_EQ(added.upper, start[c.row].value);
+        EXPECT_EQ(editor.row(c.row - 1).upper, c.x);
+        EXPECT_EQ(editor.row(c.row + 1).lower, c.x);
+        EXPECT_EQ(editor.lutTable()[c.row].value, c.x) << "the bar is painted";
     }
+}
 
 } // namespace
 } // namespace huebase

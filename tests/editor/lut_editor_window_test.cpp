@@ -235,7 +235,7 @@ std::vector<std::string> accessibilityFaults(ShownEditor& e) {
         const int k = match.captured(1).toInt() - 1;
         const QString shown = k < 0 || k >= e.model().rowCount() ? "no such node"
                               : match.captured(2) == "value"
-                                  ? QString::fromStdString(e.model().valueText(k))
+                                  ? QString::fromStdString(floatText(e.model().row(k).value))
                                   : QString(methodName(e.model().row(k).method));
         if (control.value != shown)
             faults.push_back(control.name.toStdString() + " shows '" + control.value.toStdString() +
@@ -540,83 +540,85 @@ TEST(LutEditorWindow, CountScaleAndRampFillRedrawTheGraphAndAreReported) {
     EXPECT_EQ(e.find<QComboBox>("CountScale").currentText(), "Linear");
     EXPECT_NE(colourAt(50, 20), QColor(200, 255, 0));
     EXPECT_EQ(changed.count(), 2) << "only the user's changes are reported";
-    TEST_F(GraphEditing, InsertAsksForAValueAndRefusesWhereNoNodeCanGo) {
-        testing::ServiceRecorder services;
-        const float x = 85.5f;
-        const ColorValue rampColor = e.model().rows().rampColorAt(1, x);
-        const std::vector<float> added{0, 50, x, 120, 200};
-        const struct {
-            const char* typed;
-            bool accept;
-            std::vector<float> values;
-            const char* message; // the start of it; empty: none
-        } cases[] = {
-            {"", false, start, ""},
-            {"abc", true, start, "\"abc\" is not a number"},
-            {"120", true, start, "There is already a node at 120"},
-            {"-5", true, start, "-5 lies outside the nodes (0 to 200)"},
-            {" 85.5 ", true, added, ""},
-        };
-        for (const auto& c : cases) {
-            SCOPED_TRACE(c.typed);
-            const std::size_t messages = services.messages().size();
-            QString label;
-            testing::whenModalOpens<QInputDialog>([&](QInputDialog& dialog) {
-                label = dialog.labelText();
-                dialog.setTextValue(c.typed);
-                c.accept ? dialog.accept() : dialog.reject();
-            });
-            e.window.activateWindow(); // back from the input, as a window manager does
-            ASSERT_TRUE(QTest::qWaitForWindowActive(&e.window));
-            e.tabs().setFocus();
-            QTest::keyClick(&e.tabs(), Qt::Key_Insert);
-            EXPECT_EQ(label, "Value of the new node, between 0 and 200:");
-            EXPECT_EQ(e.values(), c.values);
-            const std::string message = c.message;
-            if (message.empty()) {
-                EXPECT_EQ(services.messages().size(), messages);
-            } else {
-                ASSERT_EQ(services.messages().size(), messages + 1);
-                EXPECT_EQ(services.messages().back().text.rfind(message, 0), 0u)
-                    << services.messages().back().text;
-            }
-        }
-        EXPECT_EQ(e.model().row(2).color, rampColor);
-        EXPECT_EQ(e.model().row(2).method, MethodLin);
-        EXPECT_EQ(e.panel().rowWidget(2)->GetValue(), x);
-    }
+}
 
-    TEST_F(GraphEditing, TheGraphsAndTheRowsContextMenusAskWithASuggestedValue) {
-        const QPoint onGraph = e.graphPoint(85, 10);
-        const struct {
-            QWidget* widget;
-            QPoint pos;
-            std::string suggested;
-        } places[] = {
-            {&e.graph(), onGraph, GraphReadout::xText(e.graph().valueAt(onGraph.x()))},
-            {e.panel().rowWidget(1)->findChild<QComboBox*>("cmbMethod"), {4, 4}, "85"},
-            {e.panel().rowWidget(3)->findChild<ColorPicker*>("ColorPicker1"), {4, 4}, "160"},
-        };
-        for (const auto& place : places) {
-            SCOPED_TRACE(place.suggested);
-            QTimer::singleShot(50, [] {
-                auto* menu = qobject_cast<QMenu*>(QApplication::activePopupWidget());
-                ASSERT_NE(menu, nullptr) << "no menu";
-                menu->setActiveAction(menu->actions().front());
-                QTest::keyClick(menu, Qt::Key_Return);
-            });
-            QString suggested;
-            testing::whenModalOpens<QInputDialog>([&](QInputDialog& dialog) {
-                suggested = dialog.textValue();
-                dialog.reject();
-            });
-            QContextMenuEvent event(QContextMenuEvent::Mouse, place.pos,
-                                    place.widget->mapToGlobal(place.pos));
-            QApplication::sendEvent(place.widget, &event);
-            EXPECT_EQ(suggested.toStdString(), place.suggested);
+TEST_F(GraphEditing, InsertAsksForAValueAndRefusesWhereNoNodeCanGo) {
+    testing::ServiceRecorder services;
+    const float x = 85.5f;
+    const ColorValue rampColor = e.model().rows().rampColorAt(1, x);
+    const std::vector<float> added{0, 50, x, 120, 200};
+    const struct {
+        const char* typed;
+        bool accept;
+        std::vector<float> values;
+        const char* message; // the start of it; empty: none
+    } cases[] = {
+        {"", false, start, ""},
+        {"abc", true, start, "\"abc\" is not a number"},
+        {"120", true, start, "There is already a node at 120"},
+        {"-5", true, start, "-5 lies outside the nodes (0 to 200)"},
+        {" 85.5 ", true, added, ""},
+    };
+    for (const auto& c : cases) {
+        SCOPED_TRACE(c.typed);
+        const std::size_t messages = services.messages().size();
+        QString label;
+        testing::whenModalOpens<QInputDialog>([&](QInputDialog& dialog) {
+            label = dialog.labelText();
+            dialog.setTextValue(c.typed);
+            c.accept ? dialog.accept() : dialog.reject();
+        });
+        e.window.activateWindow(); // back from the input, as a window manager does
+        ASSERT_TRUE(QTest::qWaitForWindowActive(&e.window));
+        e.tabs().setFocus();
+        QTest::keyClick(&e.tabs(), Qt::Key_Insert);
+        EXPECT_EQ(label, "Value of the new node, between 0 and 200:");
+        EXPECT_EQ(e.values(), c.values);
+        const std::string message = c.message;
+        if (message.empty()) {
+            EXPECT_EQ(services.messages().size(), messages);
+        } else {
+            ASSERT_EQ(services.messages().size(), messages + 1);
+            EXPECT_EQ(services.messages().back().text.rfind(message, 0), 0u)
+                << services.messages().back().text;
         }
-        EXPECT_EQ(e.values(), start);
     }
+    EXPECT_EQ(e.model().row(2).color, rampColor);
+    EXPECT_EQ(e.model().row(2).method, MethodLin);
+    EXPECT_EQ(e.panel().rowWidget(2)->GetValue(), x);
+}
+
+TEST_F(GraphEditing, TheGraphsAndTheRowsContextMenusAskWithASuggestedValue) {
+    const QPoint onGraph = e.graphPoint(85, 10);
+    const struct {
+        QWidget* widget;
+        QPoint pos;
+        std::string suggested;
+    } places[] = {
+        {&e.graph(), onGraph, GraphReadout::xText(e.graph().valueAt(onGraph.x()))},
+        {e.panel().rowWidget(1)->findChild<QComboBox*>("cmbMethod"), {4, 4}, "85"},
+        {e.panel().rowWidget(3)->findChild<ColorPicker*>("ColorPicker1"), {4, 4}, "160"},
+    };
+    for (const auto& place : places) {
+        SCOPED_TRACE(place.suggested);
+        QTimer::singleShot(50, [] {
+            auto* menu = qobject_cast<QMenu*>(QApplication::activePopupWidget());
+            ASSERT_NE(menu, nullptr) << "no menu";
+            menu->setActiveAction(menu->actions().front());
+            QTest::keyClick(menu, Qt::Key_Return);
+        });
+        QString suggested;
+        testing::whenModalOpens<QInputDialog>([&](QInputDialog& dialog) {
+            suggested = dialog.textValue();
+            dialog.reject();
+        });
+        QContextMenuEvent event(QContextMenuEvent::Mouse, place.pos,
+                                place.widget->mapToGlobal(place.pos));
+        QApplication::sendEvent(place.widget, &event);
+        EXPECT_EQ(suggested.toStdString(), place.suggested);
+    }
+    EXPECT_EQ(e.values(), start);
+}
 
 } // namespace
 } // namespace huebase
