@@ -31,14 +31,17 @@ const ValuesTable* HostSession::start() {
         return nullptr;
     }
     readError_.reset();
-    std::string text;
-    try {
-        text = readTextFile(path);
-        sizeInputArray(exchangeRowCount(text));
-    } catch (const VbError& error) {
-        readError_ = error;
+    std::optional<std::string> text = readText(path);
+    bool filled = false;
+    if (text) {
+        try {
+            sizeInputArray(exchangeRowCount(*text));
+            filled = fillFromText(std::move(*text), input_);
+        } catch (const VbError& error) {
+            readError_ = error;
+        }
     }
-    if (readError_ || !fillFromText(std::move(text), input_)) {
+    if (!filled) {
         showMessage(readError_->message());
         endProgram(kStartFailedExitCode);
         return nullptr;
@@ -86,15 +89,11 @@ void HostSession::colorInputRows(const ClutTable& colors) {
 }
 
 bool HostSession::readExportTable(const std::string& path) {
-    std::string text;
-    try {
-        text = readTextFile(path);
-    } catch (const VbError& error) {
-        readError_ = error;
+    std::optional<std::string> text = readText(path);
+    if (!text)
         return false;
-    }
-    output_ = ValuesTable(exchangeRowCount(text));
-    return fillFromText(std::move(text), output_);
+    output_ = ValuesTable(exchangeRowCount(*text));
+    return fillFromText(std::move(*text), output_);
 }
 
 std::string HostSession::exportText() {
@@ -126,14 +125,17 @@ bool HostSession::GetOutPutFile(const std::string& path) {
 }
 
 bool HostSession::fill(const std::string& path, ValuesTable& table) {
-    std::string text;
+    std::optional<std::string> text = readText(path);
+    return text && fillFromText(std::move(*text), table);
+}
+
+std::optional<std::string> HostSession::readText(const std::string& path) {
     try {
-        text = readTextFile(path);
+        return readTextFile(path);
     } catch (const VbError& error) {
         readError_ = error;
-        return false;
+        return std::nullopt;
     }
-    return fillFromText(std::move(text), table);
 }
 
 bool HostSession::fillFromText(std::string text, ValuesTable& table) {

@@ -89,6 +89,8 @@ private:
     // The rewritten "lut.tmp": one line per output row, in row order.
     std::string exportText();
     bool fill(const std::string& path, ValuesTable& table);
+    // The file's text, or nothing with the read error kept.
+    std::optional<std::string> readText(const std::string& path);
     bool fillFromText(std::string text, ValuesTable& table);
     // Tells the host; when it cannot be reached, says so. Does not end the
     // program: its callers do.
